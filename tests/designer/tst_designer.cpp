@@ -1,0 +1,472 @@
+// Loads the built library as Qt Designer and QUiLoader do, without linking against it.
+#include <QDirIterator>
+#include <QFile>
+#include <QLibrary>
+#include <QPluginLoader>
+#include <QPointer>
+#include <QUiLoader>
+#include <QXmlStreamReader>
+#include <QtTest>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
+namespace {
+
+struct Row
+{
+    const char *descriptor;
+    const char *name;
+    const char *include;
+    bool container;
+    char style; // 'A', '1' (one-line form, 25 spaces) or '2' (one-line form, 26 spaces)
+    const char *objectName;
+    int width; // 0: no geometry
+    int height;
+    const char *extends; // style '2' only
+};
+
+const Row kRows[] = {
+    { "QTransToolBtnPlugin", "QTransToolBtn", "QTransToolBtn.h", false, 'A', "QTransToolBtn", 100, 100, nullptr },
+    { "QVelaContainerPlugin", "QVelaContainer", "QVelaContainer.h", true, 'A', "QVelaContainer", 100, 100, nullptr },
+    { "QMouseSpinBoxPlugin", "QMouseSpinBox", "QMouseSpinBox.h", false, 'A', "QMouseSpinBox", 100, 100, nullptr },
+    { "QKdPickContainerPlugin", "QKdPickContainer", "QKdPickContainer.h", true, 'A', "QKdPickContainer", 100, 100, nullptr },
+    { "QDragDropListWidgetPlugin", "QDragDropListWidget", "QDragDropListWidget.h", false, 'A', "QDragDropListWidget", 100, 100, nullptr },
+    { "QDragDropTableWidgetPlugin", "QDragDropTableWidget", "QDragDropTableWidget.h", false, 'A', "QDragDropTableWidget", 100, 100, nullptr },
+    { "QHoverToolBtnPlugin", "QHoverToolBtn", "QHoverToolBtn.h", false, 'A', "QHoverToolBtn", 100, 100, nullptr },
+    { "QKdFKModifyTableManagerPlugin", "QKdFKModifyTableManager", "QKdFKModifyTableManager.h", true, 'A', "QKdFKModifyTableManager", 100, 100, nullptr },
+    { "QKdFKTemplateTableManagerPlugin", "QKdFKTemplateTableManager", "QKdFKTemplateTableManager.h", true, 'A', "QKdFKTemplateTableManager", 100, 100, nullptr },
+    { "QLineEditWithClearPlugin", "QLineEditWithClear", "QLineEditWithClear.h", false, 'A', "QLineEditWithClear", 16, 16, nullptr },
+    { "QKdPlayWidgetPlugin", "QKdPlayWidget", "QKdPlayWidget.h", true, 'A', "QKdPlayWidget", 100, 100, nullptr },
+    { "QStartEndIndicatorWidgetPlugin", "QStartEndIndicatorWidget", "QStartEndIndicatorWidget.h", true, 'A', "QStartEndIndicatorWidget", 100, 100, nullptr },
+    { "QClickableLabelPlugin", "QClickableLabel", "QClickableLabel.h", false, 'A', "QClickableLabel", 100, 100, nullptr },
+    { "QKdCurveWidgetPlugin", "QKdCurveWidget", "QKdCurveWidget.h", true, 'A', "QKdCurveWidget", 100, 100, nullptr },
+    { "QItemLabelPlugin", "QItemLabel", "QItemLabel.h", false, 'A', "qItemLabel", 100, 100, nullptr },
+    { "QColorButtonPlugin", "QColorButton", "QColorButton.h", false, 'A', "qColorButton", 75, 23, nullptr },
+    { "QColorButtonPlugin2", "QColorButton2", "QColorButton2.h", false, 'A', "qColorButton2", 75, 23, nullptr },
+    { "QComboSpinBoxPlugin", "QComboSpinBox", "QComboSpinBox.h", true, '1', "combospinbox", 0, 0, "QWidget" },
+    { "QComboDoubleSpinBoxPlugin", "QComboDoubleSpinBox", "QComboDoubleSpinBox.h", false, '1', "combodoublespinbox", 0, 0, "QWidget" },
+    { "QComboNonlinearDoubleSpinBoxPlugin", "QComboNonlinearDoubleSpinBox", "QComboNonlinearDoubleSpinBox.h", false, '1', "combononlineardoublespinbox", 0, 0, "QWidget" },
+    { "QComboBoxExPlugin", "QComboBoxEx", "QComboBoxEx.h", false, '2', "qtComboBoxEx", 69, 22, "QComboBox" },
+    { "QSpinBoxExPlugin", "QSpinBoxEx", "QSpinBoxEx.h", false, '2', "qtSpinBoxEx", 0, 0, "QSpinBox" },
+    { "QDoubleSpinBoxExPlugin", "QDoubleSpinBoxEx", "QDoubleSpinBoxEx.h", false, '2', "qtDoubleSpinBoxEx", 0, 0, "QDoubleSpinBox" },
+    { "QSliderExPlugin", "QSliderEx", "QSliderEx.h", false, '2', "qtSliderEx", 160, 19, "QSlider" },
+    { "QVisemeButtonPlugin", "QVisemeButton", "QVisemeButton.h", false, 'A', "QVisemeButton", 100, 100, nullptr },
+    { "QVisemeCurveWidgetLitePlugin", "QVisemeCurveWidgetLite", "QVisemeCurveWidgetLite.h", false, 'A', "QVisemeCurveWidgetLite", 100, 100, nullptr },
+    { "QDiphoneListWidgetPlugin", "QDiphoneListWidget", "QDiphoneListWidget.h", false, 'A', "QDiphoneListWidget", 100, 100, nullptr },
+    { "QVisemeListWidgetPlugin", "QVisemeListWidget", "QVisemeListWidget.h", false, 'A', "QVisemeListWidget", 100, 100, nullptr },
+    { "QCurveEditorPlugin", "QCurveEditor", "QCurveeditor.h", false, 'A', "QCurveEditor", 100, 100, nullptr },
+    { "QVelaPushButtonPlugin", "QVelaPushButton", "QVelaPushbutton.h", false, 'A', "qVelaPushButton", 100, 100, nullptr },
+    { "QGroupWidgetPlugin", "QGroupWidget", "QGroupWidget.h", false, 'A', "QGroupWidget", 100, 100, nullptr },
+};
+
+// The rows whose widget is part of this source tree, in collection order.
+QVector<const Row *> builtRows()
+{
+    QVector<const Row *> rows;
+    for (const Row &row : kRows) {
+        QDirIterator it(QStringLiteral(VELA_SOURCE_DIR "/widgets"), { QLatin1String(row.include) },
+                        QDir::Files, QDirIterator::Subdirectories);
+        if (it.hasNext())
+            rows.append(&row);
+    }
+    return rows;
+}
+
+struct ParsedXml
+{
+    QString widgetClass;
+    QString objectName;
+    QRect geometry;
+    QStringList properties;
+    QString extends;
+    QString customClass;
+    bool hasAddPageMethod = false;
+    bool hasUiElement = false;
+};
+
+ParsedXml parseDomXml(const QString &xml, QString *error)
+{
+    ParsedXml parsed;
+    QXmlStreamReader reader(xml);
+    QString current;
+    bool inGeometry = false;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement()) {
+            const QStringRef name = reader.name();
+            if (name == QLatin1String("ui")) {
+                parsed.hasUiElement = true;
+                if (reader.attributes().value(QLatin1String("language")) != QLatin1String("c++"))
+                    *error = QStringLiteral("language is not c++");
+            } else if (name == QLatin1String("widget") && parsed.widgetClass.isEmpty()) {
+                parsed.widgetClass = reader.attributes().value(QLatin1String("class")).toString();
+                parsed.objectName = reader.attributes().value(QLatin1String("name")).toString();
+            } else if (name == QLatin1String("property")) {
+                const QString prop = reader.attributes().value(QLatin1String("name")).toString();
+                parsed.properties << prop;
+                inGeometry = prop == QLatin1String("geometry");
+            } else if (name == QLatin1String("addpagemethod")) {
+                parsed.hasAddPageMethod = true;
+            }
+            current = name.toString();
+        } else if (reader.isCharacters() && !reader.isWhitespace()) {
+            const QString text = reader.text().toString();
+            if (inGeometry && current == QLatin1String("x"))
+                parsed.geometry.moveLeft(text.toInt());
+            else if (inGeometry && current == QLatin1String("y"))
+                parsed.geometry.moveTop(text.toInt());
+            else if (inGeometry && current == QLatin1String("width"))
+                parsed.geometry.setWidth(text.toInt());
+            else if (inGeometry && current == QLatin1String("height"))
+                parsed.geometry.setHeight(text.toInt());
+            else if (current == QLatin1String("extends"))
+                parsed.extends = text;
+            else if (current == QLatin1String("class"))
+                parsed.customClass = text;
+            else if (current == QLatin1String("enum"))
+                parsed.properties.last() += QLatin1Char('=') + text;
+        } else if (reader.isEndElement() && reader.name() == QLatin1String("property")) {
+            inGeometry = false;
+        }
+    }
+    if (reader.hasError())
+        *error = reader.errorString();
+    return parsed;
+}
+
+QString formFor(const Row &row, const QString &domXml)
+{
+    if (row.style != 'A')
+        return domXml;
+    return QStringLiteral("<ui version=\"4.0\"><class>Form</class>"
+                          "<widget class=\"QWidget\" name=\"Form\">%1</widget></ui>")
+        .arg(domXml);
+}
+
+} // namespace
+
+class tst_Designer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void metaData();
+    void rawMetaDataBlock();
+    void instanceLifetime();
+    void collectionCasts();
+    void descriptorOrder();
+    void descriptors_data();
+    void descriptors();
+    void uiLoaderCreatesEveryWidget_data();
+    void uiLoaderCreatesEveryWidget();
+    void uiLoaderLoadsHandWrittenForm();
+
+private:
+    QDesignerCustomWidgetInterface *descriptor(const char *name) const;
+
+    QPluginLoader m_loader;
+    QPointer<QObject> m_collection;
+};
+
+void tst_Designer::initTestCase()
+{
+    m_loader.setFileName(QStringLiteral(VELA_LIBRARY_FILE));
+    QVERIFY2(m_loader.load(), qPrintable(m_loader.errorString()));
+    m_collection = m_loader.instance();
+    QVERIFY(m_collection);
+}
+
+void tst_Designer::cleanupTestCase()
+{
+    // The loader owns the instance; unloading deletes it.
+    m_loader.unload();
+}
+
+void tst_Designer::metaData()
+{
+    const QJsonObject meta = m_loader.metaData();
+    QCOMPARE(meta.value(QLatin1String("IID")).toString(),
+             QStringLiteral("org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"));
+    QCOMPARE(meta.value(QLatin1String("className")).toString(),
+             QStringLiteral("VelaQtCustomWidgetsPlugin"));
+    QVERIFY(meta.value(QLatin1String("MetaData")).toObject().isEmpty());
+    QCOMPARE(meta.value(QLatin1String("debug")).toBool(), false);
+}
+
+// The block Qt reads without running code: magic, format, Qt version, architecture, then a CBOR
+// map with the interface id (key 2) and the class name (key 3) only.
+void tst_Designer::rawMetaDataBlock()
+{
+    QLibrary library(QStringLiteral(VELA_LIBRARY_FILE));
+    using QueryFunction = const char *(*)();
+    auto query = reinterpret_cast<QueryFunction>(library.resolve("qt_plugin_query_metadata"));
+    QVERIFY(query);
+    QVERIFY(library.resolve("qt_plugin_instance"));
+    const auto *block = reinterpret_cast<const unsigned char *>(query());
+    QCOMPARE(QByteArray(reinterpret_cast<const char *>(block), 12), QByteArray("QTMETADATA !"));
+    QCOMPARE(int(block[12]), 0);
+    QCOMPARE(int(block[13]), 5);
+    QCOMPARE(int(block[14]), 15);
+    QCOMPARE(int(block[15]), 0);
+
+    const unsigned char *p = block + 16;
+    QCOMPARE(int(*p++), 0xBF);
+    // Text strings (major type 3) of up to 255 bytes.
+    auto readText = [&p]() {
+        if ((*p & 0xe0) != 0x60)
+            return QByteArray("<not a text string>");
+        int length = *p & 0x1f;
+        ++p;
+        if (length == 24)
+            length = *p++;
+        const QByteArray text(reinterpret_cast<const char *>(p), length);
+        p += length;
+        return text;
+    };
+    QCOMPARE(int(*p++), 0x02);
+    QCOMPARE(readText(), QByteArray("org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"));
+    QCOMPARE(int(*p++), 0x03);
+    QCOMPARE(readText(), QByteArray("VelaQtCustomWidgetsPlugin"));
+    QCOMPARE(int(*p), 0xFF);
+
+    // The file carries the same bytes, in the section Qt's loader looks for.
+    QFile file(QStringLiteral(VELA_LIBRARY_FILE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    QCOMPARE(bytes.count("QTMETADATA !"), 1);
+    QVERIFY(bytes.contains(".qtmetadata"));
+    const int at = bytes.indexOf("QTMETADATA !");
+    QCOMPARE(bytes.mid(at, int(p - block) + 1),
+             QByteArray(reinterpret_cast<const char *>(block), int(p - block) + 1));
+}
+
+void tst_Designer::instanceLifetime()
+{
+    QLibrary library(QStringLiteral(VELA_LIBRARY_FILE));
+    using InstanceFunction = QObject *(*)();
+    auto instance = reinterpret_cast<InstanceFunction>(library.resolve("qt_plugin_instance"));
+    QVERIFY(instance);
+    QObject *first = instance();
+    QCOMPARE(instance(), first);
+    QCOMPARE(first, m_collection.data());
+
+    const auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(first);
+    QVERIFY(collection);
+    const QList<QDesignerCustomWidgetInterface *> oldWidgets = collection->customWidgets();
+    QPointer<QObject> oldDescriptor = oldWidgets.isEmpty()
+        ? nullptr
+        : dynamic_cast<QObject *>(oldWidgets.first());
+
+    delete first;
+    QVERIFY(oldDescriptor.isNull());
+    QObject *second = instance();
+    QVERIFY(second);
+    QVERIFY(second != first || !m_collection);
+    const auto *fresh = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(second);
+    QCOMPARE(fresh->customWidgets().size(), oldWidgets.size());
+    QCOMPARE(instance(), second);
+    m_collection = second;
+}
+
+void tst_Designer::collectionCasts()
+{
+    QObject *collection = m_collection;
+    QVERIFY(collection->qt_metacast("VelaQtCustomWidgetsPlugin") == collection);
+    void *byName = collection->qt_metacast("QDesignerCustomWidgetCollectionInterface");
+    void *byIid = collection->qt_metacast("org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface");
+    QVERIFY(byName);
+    QCOMPARE(byName, byIid);
+    QCOMPARE(byName, static_cast<void *>(
+                         qobject_cast<QDesignerCustomWidgetCollectionInterface *>(collection)));
+    QVERIFY(collection->qt_metacast("QDesignerCustomWidgetInterface") == nullptr);
+    QVERIFY(collection->qt_metacast("NoSuchInterface") == nullptr);
+}
+
+void tst_Designer::descriptorOrder()
+{
+    const auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
+    const QList<QDesignerCustomWidgetInterface *> widgets = collection->customWidgets();
+    const QVector<const Row *> expected = builtRows();
+    QStringList names;
+    for (QDesignerCustomWidgetInterface *widget : widgets)
+        names << widget->name();
+    QStringList expectedNames;
+    for (const Row *row : expected)
+        expectedNames << QLatin1String(row->name);
+    QCOMPARE(names, expectedNames);
+    QCOMPARE(QSet<QDesignerCustomWidgetInterface *>(widgets.begin(), widgets.end()).size(),
+             widgets.size());
+    for (int i = 0; i < widgets.size(); ++i) {
+        auto *object = dynamic_cast<QObject *>(widgets.at(i));
+        QVERIFY(object);
+        QCOMPARE(object->parent(), m_collection.data());
+        QCOMPARE(object->metaObject()->className(), expected.at(i)->descriptor);
+    }
+}
+
+QDesignerCustomWidgetInterface *tst_Designer::descriptor(const char *name) const
+{
+    const auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection);
+    for (QDesignerCustomWidgetInterface *widget : collection->customWidgets()) {
+        if (widget->name() == QLatin1String(name))
+            return widget;
+    }
+    return nullptr;
+}
+
+void tst_Designer::descriptors_data()
+{
+    QTest::addColumn<int>("index");
+    for (const Row *row : builtRows())
+        QTest::newRow(row->name) << int(row - kRows);
+}
+
+void tst_Designer::descriptors()
+{
+    QFETCH(int, index);
+    const Row &row = kRows[index];
+    QDesignerCustomWidgetInterface *d = descriptor(row.name);
+    QVERIFY(d);
+    auto *object = dynamic_cast<QObject *>(d);
+    QCOMPARE(object->qt_metacast(row.descriptor), static_cast<void *>(object));
+    QCOMPARE(object->qt_metacast("QDesignerCustomWidgetInterface"), static_cast<void *>(d));
+    QCOMPARE(object->qt_metacast("org.qt-project.QDesignerCustomWidgetInterface"),
+             static_cast<void *>(d));
+    QCOMPARE(object->qt_metacast("NoSuchInterface"), nullptr);
+
+    QCOMPARE(d->group(), QStringLiteral("Vela Plugins"));
+    QCOMPARE(d->includeFile(), QLatin1String(row.include));
+    QCOMPARE(d->isContainer(), row.container);
+    QVERIFY(d->toolTip().isEmpty());
+    QVERIFY(d->whatsThis().isEmpty());
+    QVERIFY(d->codeTemplate().isEmpty());
+    QVERIFY(d->icon().isNull());
+
+    QVERIFY(!d->isInitialized());
+    d->initialize(nullptr);
+    QVERIFY(d->isInitialized());
+    d->initialize(nullptr);
+    QVERIFY(d->isInitialized());
+
+    const QString xml = d->domXml();
+    QString error;
+    const ParsedXml parsed = parseDomXml(xml, &error);
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    QCOMPARE(parsed.widgetClass, d->name());
+    QCOMPARE(parsed.objectName, QLatin1String(row.objectName));
+    if (row.width)
+        QCOMPARE(parsed.geometry, QRect(0, 0, row.width, row.height));
+    else
+        QVERIFY(!parsed.properties.contains(QLatin1String("geometry")));
+
+    switch (row.style) {
+    case 'A': {
+        QVERIFY(!parsed.hasUiElement);
+        QVERIFY(xml.startsWith(QStringLiteral("<widget class=\"%1\" name=\"%2\">\n")
+                                   .arg(QLatin1String(row.name), QLatin1String(row.objectName))));
+        QVERIFY(xml.contains(QLatin1String("\n   <x>0</x>\n")));
+        QVERIFY(xml.endsWith(QLatin1String("</widget>\n")));
+        QCOMPARE(xml.count(QLatin1Char('\n')), 10);
+        break;
+    }
+    case '1': {
+        const QString run(25, QLatin1Char(' '));
+        QVERIFY(xml.startsWith(run + QLatin1String("<ui language=\"c++\">")));
+        QVERIFY(!xml.contains(QLatin1Char('\n')));
+        QVERIFY(!xml.contains(QString(26, QLatin1Char(' '))));
+        QCOMPARE(xml.count(run), 10);
+        QCOMPARE(parsed.extends, QStringLiteral("QWidget"));
+        QCOMPARE(parsed.customClass, d->name());
+        QVERIFY(parsed.hasAddPageMethod);
+        QVERIFY(parsed.properties.isEmpty());
+        const int lengths[] = { 510, 528, 555 };
+        QCOMPARE(xml.size(), lengths[index - 17]);
+        break;
+    }
+    case '2': {
+        QVERIFY(xml.startsWith(QLatin1String("<ui language=\"c++\">")));
+        QVERIFY(xml.contains(QString(26, QLatin1Char(' ')) + QLatin1String("<widget")));
+        QVERIFY(!xml.contains(QString(27, QLatin1Char(' '))));
+        QVERIFY(!xml.contains(QLatin1Char('\n')));
+        QCOMPARE(parsed.extends, QLatin1String(row.extends));
+        QCOMPARE(parsed.customClass, d->name());
+        QVERIFY(!parsed.hasAddPageMethod);
+        QStringList expected;
+        if (row.width)
+            expected << QStringLiteral("geometry");
+        if (qstrcmp(row.name, "QSliderEx") == 0)
+            expected << QStringLiteral("orientation=Qt::Horizontal");
+        expected << QStringLiteral("focusPolicy=Qt::StrongFocus");
+        QCOMPARE(parsed.properties, expected);
+        break;
+    }
+    }
+
+    QScopedPointer<QWidget> widget(d->createWidget(nullptr));
+    QVERIFY(widget);
+    QVERIFY(widget->isWindow());
+    QCOMPARE(widget->metaObject()->className(), row.name);
+    QWidget parent;
+    QWidget *child = d->createWidget(&parent);
+    QCOMPARE(child->parentWidget(), &parent);
+    QVERIFY(child != widget.data());
+}
+
+void tst_Designer::uiLoaderCreatesEveryWidget_data()
+{
+    descriptors_data();
+}
+
+void tst_Designer::uiLoaderCreatesEveryWidget()
+{
+    QFETCH(int, index);
+    const Row &row = kRows[index];
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
+    QVERIFY(loader.availableWidgets().contains(QLatin1String(row.name)));
+
+    QByteArray form = formFor(row, descriptor(row.name)->domXml()).toUtf8();
+    QBuffer buffer(&form);
+    QScopedPointer<QWidget> root(loader.load(&buffer));
+    QVERIFY2(root, qPrintable(loader.errorString()));
+    QWidget *widget = root->objectName() == QLatin1String(row.objectName)
+        ? root.data()
+        : root->findChild<QWidget *>(QLatin1String(row.objectName));
+    QVERIFY(widget);
+    QCOMPARE(widget->metaObject()->className(), row.name);
+    if (row.width && row.style == 'A')
+        QCOMPARE(widget->geometry(), QRect(0, 0, row.width, row.height));
+    if (row.style == '2')
+        QCOMPARE(widget->focusPolicy(), Qt::StrongFocus);
+}
+
+// A form as a user saves it from Designer, placing several widgets in a layout.
+void tst_Designer::uiLoaderLoadsHandWrittenForm()
+{
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
+    QFile file(QStringLiteral(":/forms/controls.ui"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QScopedPointer<QWidget> form(loader.load(&file));
+    QVERIFY2(form, qPrintable(loader.errorString()));
+    const QList<QWidget *> children = form->findChildren<QWidget *>();
+    QStringList classes;
+    for (QWidget *child : children)
+        classes << QLatin1String(child->metaObject()->className());
+    for (const char *name : { "QSpinBoxEx", "QDoubleSpinBoxEx", "QSliderEx", "QComboBoxEx" })
+        QVERIFY2(classes.contains(QLatin1String(name)), name);
+    auto *slider = form->findChild<QWidget *>(QStringLiteral("volumeSlider"));
+    QVERIFY(slider);
+    QCOMPARE(slider->property("maximum").toInt(), 200);
+    QCOMPARE(slider->property("value").toInt(), 40);
+    auto *combo = form->findChild<QWidget *>(QStringLiteral("modeCombo"));
+    QCOMPARE(combo->property("ignoreWheelEvent").toBool(), true);
+    QCOMPARE(combo->property("count").toInt(), 2);
+}
+
+QTEST_MAIN(tst_Designer)
+#include "tst_designer.moc"
