@@ -7,6 +7,7 @@
 #define VELA_SEP26 "                          "
 
 #if __has_include("QTransToolBtn.h")
+#include "QTransToolBtn.h"
 static const VelaWidgetDescriptor::Row kQTransToolBtnPluginRow = {
     "QTransToolBtn", "QTransToolBtn.h", false,
     "<widget class=\"QTransToolBtn\" name=\"QTransToolBtn\">\n"
@@ -28,6 +29,7 @@ QTransToolBtnPlugin::QTransToolBtnPlugin(QObject *parent)
 #endif
 
 #if __has_include("QVelaContainer.h")
+#include "QVelaContainer.h"
 static const VelaWidgetDescriptor::Row kQVelaContainerPluginRow = {
     "QVelaContainer", "QVelaContainer.h", true,
     "<widget class=\"QVelaContainer\" name=\"QVelaContainer\">\n"
@@ -49,6 +51,7 @@ QVelaContainerPlugin::QVelaContainerPlugin(QObject *parent)
 #endif
 
 #if __has_include("QMouseSpinBox.h")
+#include "QMouseSpinBox.h"
 static const VelaWidgetDescriptor::Row kQMouseSpinBoxPluginRow = {
     "QMouseSpinBox", "QMouseSpinBox.h", false,
     "<widget class=\"QMouseSpinBox\" name=\"QMouseSpinBox\">\n"
@@ -70,6 +73,7 @@ QMouseSpinBoxPlugin::QMouseSpinBoxPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdPickContainer.h")
+#include "QKdPickContainer.h"
 static const VelaWidgetDescriptor::Row kQKdPickContainerPluginRow = {
     "QKdPickContainer", "QKdPickContainer.h", true,
     "<widget class=\"QKdPickContainer\" name=\"QKdPickContainer\">\n"
@@ -91,6 +95,7 @@ QKdPickContainerPlugin::QKdPickContainerPlugin(QObject *parent)
 #endif
 
 #if __has_include("QDragDropListWidget.h")
+#include "QDragDropListWidget.h"
 static const VelaWidgetDescriptor::Row kQDragDropListWidgetPluginRow = {
     "QDragDropListWidget", "QDragDropListWidget.h", false,
     "<widget class=\"QDragDropListWidget\" name=\"QDragDropListWidget\">\n"
@@ -112,6 +117,7 @@ QDragDropListWidgetPlugin::QDragDropListWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QDragDropTableWidget.h")
+#include "QDragDropTableWidget.h"
 static const VelaWidgetDescriptor::Row kQDragDropTableWidgetPluginRow = {
     "QDragDropTableWidget", "QDragDropTableWidget.h", false,
     "<widget class=\"QDragDropTableWidget\" name=\"QDragDropTableWidget\">\n"
@@ -133,6 +139,7 @@ QDragDropTableWidgetPlugin::QDragDropTableWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QHoverToolBtn.h")
+#include "QHoverToolBtn.h"
 static const VelaWidgetDescriptor::Row kQHoverToolBtnPluginRow = {
     "QHoverToolBtn", "QHoverToolBtn.h", false,
     "<widget class=\"QHoverToolBtn\" name=\"QHoverToolBtn\">\n"
@@ -154,6 +161,7 @@ QHoverToolBtnPlugin::QHoverToolBtnPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdFKModifyTableManager.h")
+#include "QKdFKModifyTableManager.h"
 static const VelaWidgetDescriptor::Row kQKdFKModifyTableManagerPluginRow = {
     "QKdFKModifyTableManager", "QKdFKModifyTableManager.h", true,
     "<widget class=\"QKdFKModifyTableManager\" name=\"QKdFKModifyTableManager\">\n"
@@ -175,6 +183,7 @@ QKdFKModifyTableManagerPlugin::QKdFKModifyTableManagerPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdFKTemplateTableManager.h")
+#include "QKdFKTemplateTableManager.h"
 static const VelaWidgetDescriptor::Row kQKdFKTemplateTableManagerPluginRow = {
     "QKdFKTemplateTableManager", "QKdFKTemplateTableManager.h", true,
     "<widget class=\"QKdFKTemplateTableManager\" name=\"QKdFKTemplateTableManager\">\n"
@@ -196,6 +205,7 @@ QKdFKTemplateTableManagerPlugin::QKdFKTemplateTableManagerPlugin(QObject *parent
 #endif
 
 #if __has_include("QLineEditWithClear.h")
+#include "QLineEditWithClear.h"
 static const VelaWidgetDescriptor::Row kQLineEditWithClearPluginRow = {
     "QLineEditWithClear", "QLineEditWithClear.h", false,
     "<widget class=\"QLineEditWithClear\" name=\"QLineEditWithClear\">\n"
@@ -217,6 +227,7 @@ QLineEditWithClearPlugin::QLineEditWithClearPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdPlayWidget.h")
+#include "QKdPlayWidget.h"
 static const VelaWidgetDescriptor::Row kQKdPlayWidgetPluginRow = {
     "QKdPlayWidget", "QKdPlayWidget.h", true,
     "<widget class=\"QKdPlayWidget\" name=\"QKdPlayWidget\">\n"
@@ -238,6 +249,7 @@ QKdPlayWidgetPlugin::QKdPlayWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QStartEndIndicatorWidget.h")
+#include "QStartEndIndicatorWidget.h"
 static const VelaWidgetDescriptor::Row kQStartEndIndicatorWidgetPluginRow = {
     "QStartEndIndicatorWidget", "QStartEndIndicatorWidget.h", true,
     "<widget class=\"QStartEndIndicatorWidget\" name=\"QStartEndIndicatorWidget\">\n"
@@ -259,6 +271,7 @@ QStartEndIndicatorWidgetPlugin::QStartEndIndicatorWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QClickableLabel.h")
+#include "QClickableLabel.h"
 static const VelaWidgetDescriptor::Row kQClickableLabelPluginRow = {
     "QClickableLabel", "QClickableLabel.h", false,
     "<widget class=\"QClickableLabel\" name=\"QClickableLabel\">\n"
@@ -280,6 +293,7 @@ QClickableLabelPlugin::QClickableLabelPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdCurveWidget.h")
+#include "QKdCurveWidget.h"
 static const VelaWidgetDescriptor::Row kQKdCurveWidgetPluginRow = {
     "QKdCurveWidget", "QKdCurveWidget.h", true,
     "<widget class=\"QKdCurveWidget\" name=\"QKdCurveWidget\">\n"
@@ -301,6 +315,7 @@ QKdCurveWidgetPlugin::QKdCurveWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QItemLabel.h")
+#include "QItemLabel.h"
 static const VelaWidgetDescriptor::Row kQItemLabelPluginRow = {
     "QItemLabel", "QItemLabel.h", false,
     "<widget class=\"QItemLabel\" name=\"qItemLabel\">\n"
@@ -322,6 +337,7 @@ QItemLabelPlugin::QItemLabelPlugin(QObject *parent)
 #endif
 
 #if __has_include("QColorButton.h")
+#include "QColorButton.h"
 static const VelaWidgetDescriptor::Row kQColorButtonPluginRow = {
     "QColorButton", "QColorButton.h", false,
     "<widget class=\"QColorButton\" name=\"qColorButton\">\n"
@@ -343,6 +359,7 @@ QColorButtonPlugin::QColorButtonPlugin(QObject *parent)
 #endif
 
 #if __has_include("QColorButton2.h")
+#include "QColorButton2.h"
 static const VelaWidgetDescriptor::Row kQColorButtonPlugin2Row = {
     "QColorButton2", "QColorButton2.h", false,
     "<widget class=\"QColorButton2\" name=\"qColorButton2\">\n"
@@ -364,6 +381,7 @@ QColorButtonPlugin2::QColorButtonPlugin2(QObject *parent)
 #endif
 
 #if __has_include("QComboSpinBox.h")
+#include "QComboSpinBox.h"
 static const VelaWidgetDescriptor::Row kQComboSpinBoxPluginRow = {
     "QComboSpinBox", "QComboSpinBox.h", true,
     VELA_SEP25 "<ui language=\"c++\">" VELA_SEP25
@@ -381,6 +399,7 @@ QComboSpinBoxPlugin::QComboSpinBoxPlugin(QObject *parent)
 #endif
 
 #if __has_include("QComboDoubleSpinBox.h")
+#include "QComboDoubleSpinBox.h"
 static const VelaWidgetDescriptor::Row kQComboDoubleSpinBoxPluginRow = {
     "QComboDoubleSpinBox", "QComboDoubleSpinBox.h", false,
     VELA_SEP25 "<ui language=\"c++\">" VELA_SEP25
@@ -399,11 +418,12 @@ QComboDoubleSpinBoxPlugin::QComboDoubleSpinBoxPlugin(QObject *parent)
 #endif
 
 #if __has_include("QComboNonlinearDoubleSpinBox.h")
+#include "QComboNonlinearDoubleSpinBox.h"
 static const VelaWidgetDescriptor::Row kQComboNonlinearDoubleSpinBoxPluginRow = {
     "QComboNonlinearDoubleSpinBox", "QComboNonlinearDoubleSpinBox.h", false,
     VELA_SEP25 "<ui language=\"c++\">" VELA_SEP25 "<widget class=\"QComboNonlinearDoubleSpinBox\" "
-                                                  "name=\"combononlineardoublespinbox\">" VELA_SEP25
-               "</widget>" VELA_SEP25 "<customwidgets>" VELA_SEP25 "<customwidget>" VELA_SEP25
+               "name=\"combononlineardoublespinbox\">" VELA_SEP25 "</widget>" VELA_SEP25
+               "<customwidgets>" VELA_SEP25 "<customwidget>" VELA_SEP25
                "<class>QComboNonlinearDoubleSpinBox</class>" VELA_SEP25
                "<extends>QWidget</extends>" VELA_SEP25
                "<addpagemethod>addPage</addpagemethod>" VELA_SEP25 "</customwidget>" VELA_SEP25
@@ -417,6 +437,7 @@ QComboNonlinearDoubleSpinBoxPlugin::QComboNonlinearDoubleSpinBoxPlugin(QObject *
 #endif
 
 #if __has_include("QComboBoxEx.h")
+#include "QComboBoxEx.h"
 static const VelaWidgetDescriptor::Row kQComboBoxExPluginRow = {
     "QComboBoxEx", "QComboBoxEx.h", false,
     "<ui language=\"c++\">" VELA_SEP26
@@ -437,6 +458,7 @@ QComboBoxExPlugin::QComboBoxExPlugin(QObject *parent)
 #endif
 
 #if __has_include("QSpinBoxEx.h")
+#include "QSpinBoxEx.h"
 static const VelaWidgetDescriptor::Row kQSpinBoxExPluginRow = {
     "QSpinBoxEx", "QSpinBoxEx.h", false,
     "<ui language=\"c++\">" VELA_SEP26
@@ -455,6 +477,7 @@ QSpinBoxExPlugin::QSpinBoxExPlugin(QObject *parent)
 #endif
 
 #if __has_include("QDoubleSpinBoxEx.h")
+#include "QDoubleSpinBoxEx.h"
 static const VelaWidgetDescriptor::Row kQDoubleSpinBoxExPluginRow = {
     "QDoubleSpinBoxEx", "QDoubleSpinBoxEx.h", false,
     "<ui language=\"c++\">" VELA_SEP26
@@ -473,6 +496,7 @@ QDoubleSpinBoxExPlugin::QDoubleSpinBoxExPlugin(QObject *parent)
 #endif
 
 #if __has_include("QSliderEx.h")
+#include "QSliderEx.h"
 static const VelaWidgetDescriptor::Row kQSliderExPluginRow = {
     "QSliderEx", "QSliderEx.h", false,
     "<ui language=\"c++\">" VELA_SEP26 "<widget class=\"QSliderEx\" name=\"qtSliderEx\">" VELA_SEP26
@@ -494,6 +518,7 @@ QSliderExPlugin::QSliderExPlugin(QObject *parent)
 #endif
 
 #if __has_include("QVisemeButton.h")
+#include "QVisemeButton.h"
 static const VelaWidgetDescriptor::Row kQVisemeButtonPluginRow = {
     "QVisemeButton", "QVisemeButton.h", false,
     "<widget class=\"QVisemeButton\" name=\"QVisemeButton\">\n"
@@ -515,6 +540,7 @@ QVisemeButtonPlugin::QVisemeButtonPlugin(QObject *parent)
 #endif
 
 #if __has_include("QVisemeCurveWidgetLite.h")
+#include "QVisemeCurveWidgetLite.h"
 static const VelaWidgetDescriptor::Row kQVisemeCurveWidgetLitePluginRow = {
     "QVisemeCurveWidgetLite", "QVisemeCurveWidgetLite.h", false,
     "<widget class=\"QVisemeCurveWidgetLite\" name=\"QVisemeCurveWidgetLite\">\n"
@@ -536,6 +562,7 @@ QVisemeCurveWidgetLitePlugin::QVisemeCurveWidgetLitePlugin(QObject *parent)
 #endif
 
 #if __has_include("QDiphoneListWidget.h")
+#include "QDiphoneListWidget.h"
 static const VelaWidgetDescriptor::Row kQDiphoneListWidgetPluginRow = {
     "QDiphoneListWidget", "QDiphoneListWidget.h", false,
     "<widget class=\"QDiphoneListWidget\" name=\"QDiphoneListWidget\">\n"
@@ -557,6 +584,7 @@ QDiphoneListWidgetPlugin::QDiphoneListWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QVisemeListWidget.h")
+#include "QVisemeListWidget.h"
 static const VelaWidgetDescriptor::Row kQVisemeListWidgetPluginRow = {
     "QVisemeListWidget", "QVisemeListWidget.h", false,
     "<widget class=\"QVisemeListWidget\" name=\"QVisemeListWidget\">\n"
@@ -578,6 +606,7 @@ QVisemeListWidgetPlugin::QVisemeListWidgetPlugin(QObject *parent)
 #endif
 
 #if __has_include("QCurveeditor.h")
+#include "QCurveeditor.h"
 static const VelaWidgetDescriptor::Row kQCurveEditorPluginRow = {
     "QCurveEditor", "QCurveeditor.h", false,
     "<widget class=\"QCurveEditor\" name=\"QCurveEditor\">\n"
@@ -599,6 +628,7 @@ QCurveEditorPlugin::QCurveEditorPlugin(QObject *parent)
 #endif
 
 #if __has_include("QVelaPushbutton.h")
+#include "QVelaPushbutton.h"
 static const VelaWidgetDescriptor::Row kQVelaPushButtonPluginRow = {
     "QVelaPushButton", "QVelaPushbutton.h", false,
     "<widget class=\"QVelaPushButton\" name=\"qVelaPushButton\">\n"
@@ -620,6 +650,7 @@ QVelaPushButtonPlugin::QVelaPushButtonPlugin(QObject *parent)
 #endif
 
 #if __has_include("QGroupWidget.h")
+#include "QGroupWidget.h"
 static const VelaWidgetDescriptor::Row kQGroupWidgetPluginRow = {
     "QGroupWidget", "QGroupWidget.h", false,
     "<widget class=\"QGroupWidget\" name=\"QGroupWidget\">\n"
