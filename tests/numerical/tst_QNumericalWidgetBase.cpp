@@ -80,6 +80,7 @@ private slots:
     void visibility();
     void key();
     void queuedValueChanged();
+    void destroyWhileEditing();
 };
 
 void tst_QNumericalWidgetBase::recordDefaults()
@@ -377,6 +378,24 @@ void tst_QNumericalWidgetBase::queuedValueChanged()
     widget->SetValue(Vela::CVector4f(3.0f, 0.0f, 0.0f, 0.0f));
     QVERIFY(received == Vela::CVector4f(-1, -1, -1, -1));
     QTRY_VERIFY(received == Vela::CVector4f(3.0f, 0.0f, 0.0f, 0.0f));
+}
+
+void tst_QNumericalWidgetBase::destroyWhileEditing()
+{
+    // A focused editor reports the end of its edit while the widget is torn down; by then the
+    // concrete widget is gone and nothing may reach it.
+    QWidget window;
+    auto *box = new QVBoxLayout(&window);
+    SpinNumericalWidget *widget = makeWidget(Vela::DynamicVariable_Float2);
+    box->addWidget(widget);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    widget->spins.at(0)->setFocus();
+    QTRY_VERIFY(widget->spins.at(0)->hasFocus());
+    QTest::keyClicks(widget->spins.at(0), QStringLiteral("3"));
+    QSignalSpy finished(widget, &QNumericalWidgetBase::EditFinished);
+    delete widget;
+    QCOMPARE(finished.count(), 0);
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetBase)
