@@ -1,14 +1,9 @@
 #include "FuzzSupport.h"
 
-#include "QDialEx.h"
-
 #include <QApplication>
-#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
 #include <cmath>
 #include <limits>
-
-extern "C" QObject *qt_plugin_instance();
 
 namespace VelaFuzz {
 
@@ -73,22 +68,6 @@ void EnsureApplication()
     static char name[] = "vela-fuzz";
     static char *argv[] = { name, nullptr };
     new QApplication(argc, argv);
-}
-
-const QVector<WidgetFactory> &WidgetFactories()
-{
-    static const QVector<WidgetFactory> factories = [] {
-        QVector<WidgetFactory> list;
-        auto *collection =
-            qobject_cast<QDesignerCustomWidgetCollectionInterface *>(qt_plugin_instance());
-        for (QDesignerCustomWidgetInterface *descriptor : collection->customWidgets()) {
-            list.append(
-                { descriptor->name(), [descriptor] { return descriptor->createWidget(nullptr); } });
-        }
-        list.append({ QStringLiteral("QDialEx"), [] { return new QDialEx; } });
-        return list;
-    }();
-    return factories;
 }
 
 } // namespace VelaFuzz

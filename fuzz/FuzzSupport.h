@@ -5,11 +5,9 @@
 #include <QString>
 #include <QVector>
 
+#include "VelaWidgetCatalog.h"
 #include <cstddef>
 #include <cstdint>
-#include <functional>
-
-class QWidget;
 
 namespace VelaFuzz {
 
@@ -39,15 +37,6 @@ private:
 
 // Creates the QApplication once (offscreen platform).
 void EnsureApplication();
-
-// Factories of every widget the fuzzers exercise: each Designer widget of the collection plus the
-// host-only widgets.
-struct WidgetFactory
-{
-    QString name;
-    std::function<QWidget *()> create;
-};
-const QVector<WidgetFactory> &WidgetFactories();
 
 } // namespace VelaFuzz
 

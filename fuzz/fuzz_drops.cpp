@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     EnsureApplication();
     static QTemporaryDir dir;
     Input in(data, size);
-    const QVector<WidgetFactory> &factories = WidgetFactories();
+    const QVector<VelaCatalog::Entry> &factories = VelaCatalog::Widgets();
     std::unique_ptr<QWidget> widget(factories.at(in.index(factories.size())).create());
     widget->resize(320, 200);
     widget->show();
