@@ -102,6 +102,11 @@ static std::function<QWidget *()> imageCreator(GalleryContext &ctx, const QStrin
 static QWidget *createGroupWidgetPage(GalleryContext &ctx)
 {
     auto *panel = new QWidget;
+    // Title buttons as a host's dark panel styles them.
+    panel->setStyleSheet(
+        QStringLiteral("QGroupWidget > QPushButton { color: #d0d0d0; background-color: #1c1c1c;"
+                       " border: 1px solid #505050; padding: 3px; }"
+                       "QGroupWidget > QPushButton:hover { color: #82be0f; }"));
     auto *column = new QVBoxLayout(panel);
     const auto always = []() { return true; };
 
