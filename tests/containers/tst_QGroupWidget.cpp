@@ -298,7 +298,15 @@ void tst_QGroupWidget::badCreators()
     QTest::mouseClick(titleButton(group), Qt::LeftButton);
     QCOMPARE(placed(group), QList<QWidget *> { shown });
     QVERIFY(shown->isVisible());
-    // A group cannot hold itself.
+    // A group cannot hold itself or what holds it.
+    QWidget window;
+    auto *holder = new QVBoxLayout(&window);
+    auto *inner = new QGroupWidget(&window, QStringLiteral("Inner"), true);
+    holder->addWidget(inner);
+    inner->AddWidgetCreator([inner]() { return inner; }, nullptr);
+    inner->AddWidgetCreator([&window]() { return &window; }, nullptr);
+    QVERIFY(!inner->HasSubWidget());
+    QCOMPARE(inner->parentWidget(), &window);
     group.AddSubGroup(&group);
     group.AddSubGroup(nullptr);
     QCOMPARE(placed(group).size(), 1);

@@ -71,6 +71,7 @@ class tst_QSbsImageWidget : public QObject
 
 private slots:
     void initTestCase();
+    void uninitialised();
     void withoutChannelMap();
     void entries();
     void missingChannelNames();
@@ -135,6 +136,24 @@ static void initFull(QSbsImageWidget &w)
 {
     w.Initialize(kUid, QStringLiteral("Base Color Input"), channelNames(),
                  Vela::CArrayList<std::wstring> { L"Wood", L"Stone" }, true);
+}
+
+void tst_QSbsImageWidget::uninitialised()
+{
+    // Nothing is built before Initialize; every setter is safe and nothing is raised.
+    QSbsImageWidget w;
+    SignalLog log(&w);
+    w.SetSelectedChannel(3);
+    w.SetImage(QImage(4, 4, QImage::Format_RGB32));
+    w.SetImageTip(QStringLiteral("tip"));
+    w.SetLabelColor(QStringLiteral("color: red"));
+    w.OnUpdateWidgetSbsarVisibleif(0, false); // the uid defaults to 0
+    QVERIFY(!w.GetSbsarVisibleif());
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+    QVERIFY(!w.GetImageLabel());
+    QVERIFY(!w.GetNameLabel());
+    QVERIFY(!w.acceptDrops());
+    QVERIFY(log.lines.isEmpty());
 }
 
 void tst_QSbsImageWidget::withoutChannelMap()

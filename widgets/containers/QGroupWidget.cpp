@@ -118,7 +118,8 @@ void QGroupWidget::CreateSubWidgets()
     QApplication::setOverrideCursor(Qt::WaitCursor);
     for (int i = 0; i < creators.size(); ++i) {
         QWidget *pWidget = creators.at(i) ? creators.at(i)() : nullptr;
-        if (!pWidget)
+        // Nothing, or this group or one that holds it (which could not be placed inside it).
+        if (!pWidget || pWidget == this || pWidget->isAncestorOf(this))
             continue;
         if (qobject_cast<QGroupWidget *>(pWidget)
             || qobject_cast<QNumericalWidgetBase *>(pWidget)) {

@@ -44,7 +44,8 @@ public:
     void AddSubGroup(QGroupWidget *pGroup);
     // Runs the pending creators in registration order, under a wait cursor, and places what they
     // return: sub-groups and numerical widgets one below the other, runs of consecutive image
-    // widgets in one flowing row container. Anything else is deleted later.
+    // widgets in one flowing row container. Anything else is deleted later; a null result, this
+    // group itself or a widget that contains it is skipped.
     void CreateSubWidgets();
     void PlaceNumericalWidget(QWidget *pWidget);
     void PlaceImageWidget(QWidget *pWidget);
