@@ -43,7 +43,7 @@ static QWidget *createFlowLayoutPage(GalleryContext &ctx)
     return panel;
 }
 
-GALLERY_ENTRY({ 80, "Containers", "FlowLayout",
+GALLERY_ENTRY({ 80, "Lists, containers and layout", "FlowLayout",
                 "Places items left to right at their size hints and wraps into rows like words; "
                 "its height follows its width.",
                 createFlowLayoutPage })

@@ -152,7 +152,7 @@ static QWidget *createGroupWidgetPage(GalleryContext &ctx)
     return panel;
 }
 
-GALLERY_ENTRY({ 80, "Containers", "QGroupWidget",
+GALLERY_ENTRY({ 80, "Lists, containers and layout", "QGroupWidget",
                 "A collapsible material section; its parameter and image widgets are created "
                 "through creator functions on first opening (image slots flow in rows).",
                 createGroupWidgetPage })

@@ -130,7 +130,7 @@ static QWidget *createSbsImagePage(GalleryContext &ctx)
     return page;
 }
 
-GALLERY_ENTRY({ 40, "Numerical", "QSbsImageWidget",
+GALLERY_ENTRY({ 40, "Material parameters", "QSbsImageWidget",
                 "The image slot of a Substance input: preview, source drop-down (channels, "
                 "external textures, custom image, none) and name.",
                 createSbsImagePage })
