@@ -115,6 +115,40 @@ inline void expectWindowRaised(int times)
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
 }
 
+// A host interface that records what the widget asks and answers as configured. Interface is
+// QDragDropListWidgetInterface or QDragDropTableWidgetInterface, Item their item type.
+template<class Interface, class Item>
+class RecordingInterface : public Interface
+{
+public:
+    bool CanDragEnter(QList<QString> kFiles) override
+    {
+        calls << QStringLiteral("CanDragEnter");
+        files << kFiles;
+        return enterAnswer;
+    }
+    bool CanDropFile(QString strFile, Item *pItem) override
+    {
+        calls << QStringLiteral("CanDropFile");
+        files << QList<QString> { strFile };
+        item = pItem;
+        return dropAnswer;
+    }
+    bool CanDropFileList(QList<QString> kFiles) override
+    {
+        calls << QStringLiteral("CanDropFileList");
+        files << kFiles;
+        return dropAnswer;
+    }
+    void MouseRButtonRelease() override { calls << QStringLiteral("MouseRButtonRelease"); }
+
+    bool enterAnswer = true;
+    bool dropAnswer = true;
+    QStringList calls;
+    QList<QList<QString>> files;
+    Item *item = nullptr;
+};
+
 // Writes a solid-colour PNG and returns its path.
 inline QString writeImage(const QString &dir, const QString &name, const QSize &size,
                           const QColor &color)

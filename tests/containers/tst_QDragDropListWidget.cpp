@@ -2,43 +2,12 @@
 #include "VelaDropTest.h"
 #include "VelaTest.h"
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QtTest>
 
 namespace {
 
-// Records what the list asks and answers as configured.
-class RecordingListInterface : public QDragDropListWidgetInterface
-{
-public:
-    bool CanDragEnter(QList<QString> kFiles) override
-    {
-        calls << QStringLiteral("CanDragEnter");
-        files << kFiles;
-        return enterAnswer;
-    }
-    bool CanDropFile(QString strFile, QListWidgetItem *pItem) override
-    {
-        calls << QStringLiteral("CanDropFile");
-        files << QList<QString> { strFile };
-        item = pItem;
-        return dropAnswer;
-    }
-    bool CanDropFileList(QList<QString> kFiles) override
-    {
-        calls << QStringLiteral("CanDropFileList");
-        files << kFiles;
-        return dropAnswer;
-    }
-    void MouseRButtonRelease() override { calls << QStringLiteral("MouseRButtonRelease"); }
-
-    bool enterAnswer = true;
-    bool dropAnswer = true;
-    QStringList calls;
-    QList<QList<QString>> files;
-    QListWidgetItem *item = nullptr;
-};
+using RecordingListInterface =
+    VelaDropTest::RecordingInterface<QDragDropListWidgetInterface, QListWidgetItem>;
 
 constexpr int kDropTargetRole = Qt::UserRole + 10;
 

@@ -4,41 +4,8 @@
 
 #include <QtTest>
 
-namespace {
-
-// Records what the table asks and answers as configured.
-class RecordingTableInterface : public QDragDropTableWidgetInterface
-{
-public:
-    bool CanDragEnter(QList<QString> kFiles) override
-    {
-        calls << QStringLiteral("CanDragEnter");
-        files << kFiles;
-        return enterAnswer;
-    }
-    bool CanDropFile(QString strFile, QTableWidgetItem *pItem) override
-    {
-        calls << QStringLiteral("CanDropFile");
-        files << QList<QString> { strFile };
-        item = pItem;
-        return dropAnswer;
-    }
-    bool CanDropFileList(QList<QString> kFiles) override
-    {
-        calls << QStringLiteral("CanDropFileList");
-        files << kFiles;
-        return dropAnswer;
-    }
-    void MouseRButtonRelease() override { calls << QStringLiteral("MouseRButtonRelease"); }
-
-    bool enterAnswer = true;
-    bool dropAnswer = true;
-    QStringList calls;
-    QList<QList<QString>> files;
-    QTableWidgetItem *item = nullptr;
-};
-
-} // namespace
+using RecordingTableInterface =
+    VelaDropTest::RecordingInterface<QDragDropTableWidgetInterface, QTableWidgetItem>;
 
 class tst_QDragDropTableWidget : public QObject
 {

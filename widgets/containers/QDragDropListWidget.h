@@ -30,6 +30,7 @@ public:
 // manager) and leaves every decision about them to the host's interface. Items carrying a
 // negative Qt::UserRole value refuse drops; the item under a drag is marked with
 // Qt::UserRole + 10 so that a delegate can highlight it. The list never takes its own items.
+// Whether it takes drops at all stays the host's choice (setAcceptDrops).
 class VELA_WIDGETS_EXPORT QDragDropListWidget : public QListWidget
 {
     Q_OBJECT

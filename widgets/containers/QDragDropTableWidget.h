@@ -27,7 +27,8 @@ public:
 };
 
 // A table that accepts files dragged in from outside the application and leaves every decision
-// about them to the host's interface.
+// about them to the host's interface. Whether it takes drops at all stays the host's choice
+// (setAcceptDrops).
 class VELA_WIDGETS_EXPORT QDragDropTableWidget : public QTableWidget
 {
     Q_OBJECT

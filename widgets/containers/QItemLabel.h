@@ -18,7 +18,8 @@ class QPaintEvent;
 
 // One selectable thumbnail of a grid (a texture or preset slot). Draws a three-line frame over its
 // picture when selected or hovered, selects itself on a click, and loads a new picture on a left
-// double-click (through a file dialog the host supplies) or when one image file is dropped on it.
+// double-click (through a file dialog the host supplies) or when one image file is dropped on it
+// (once the host lets it accept drops).
 class VELA_WIDGETS_EXPORT QItemLabel : public QLabel
 {
     Q_OBJECT
