@@ -71,7 +71,10 @@ bool IsValidKey(const CVisemeUIData &kSlot)
 
 QVisemeCurveWidgetLite::QVisemeCurveWidgetLite(QWidget *parent)
     : QWidget(parent)
-{ }
+{
+    // Viseme names and buttons are dropped on it from the lists beside it.
+    setAcceptDrops(true);
+}
 
 QVisemeCurveWidgetLite::~QVisemeCurveWidgetLite() = default;
 
