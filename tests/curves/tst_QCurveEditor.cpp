@@ -85,6 +85,7 @@ private slots:
     void endPointsStayFixed();
     void dragNeedsTheLeftButtonAlone();
     void releaseEndsTheSelectionAndCallsBack();
+    void slotsInOrder();
     void keyboardActions();
     void dividerNumberCycles();
     void dividerAndSymmetryShortcuts();
@@ -301,6 +302,21 @@ void tst_QCurveEditor::releaseEndsTheSelectionAndCallsBack()
     m_editor->SetFinishedCallback({});
     QTest::mouseClick(m_editor.get(), Qt::LeftButton, Qt::NoModifier, QPoint(180, 120));
     QCOMPARE(m_finished, 3);
+}
+
+void tst_QCurveEditor::slotsInOrder()
+{
+    // Hosts reach the slots by index too: the order is part of the interface, and there are no
+    // signals.
+    const QMetaObject &meta = QCurveEditor::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Slot);
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    QCOMPARE(methods,
+             QStringList({ "OnDividerNum()", "OnShowDivider()", "OnSymmetry()", "OnReset()",
+                           "OnChangePart()", "OnCurveWeighting(double)" }));
 }
 
 void tst_QCurveEditor::keyboardActions()

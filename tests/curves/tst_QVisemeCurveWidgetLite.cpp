@@ -91,6 +91,7 @@ private slots:
     void init();
     void cleanup();
     void defaults();
+    void signalsInOrder();
     void initColoursAndArea();
     void slotData();
     void endPoints_data();
@@ -190,6 +191,18 @@ void tst_QVisemeCurveWidgetLite::defaults()
     QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
     QVERIFY(widget.GetVisemeUIData()[0].m_lstKeys.isEmpty());
     QVERIFY(!widget.grab().isNull());
+}
+
+void tst_QVisemeCurveWidgetLite::signalsInOrder()
+{
+    const QMetaObject &meta = QVisemeCurveWidgetLite::staticMetaObject;
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        QCOMPARE(meta.method(i).methodType(), QMetaMethod::Signal);
+        methods << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    QCOMPARE(methods,
+             QStringList({ "ApplyVisemeData()", "ClearKeys()", "SelKeyValueChanged(float)" }));
 }
 
 void tst_QVisemeCurveWidgetLite::initColoursAndArea()

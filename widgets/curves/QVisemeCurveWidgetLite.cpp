@@ -230,7 +230,12 @@ void QVisemeCurveWidgetLite::paintEvent(QPaintEvent *)
                 lstCurrentLabels.append(QString::number(kKey.y() * 100.0, 'g', 6));
         }
     }
+    // Pens and brushes are made once: setting them per key then only shares them.
     const QColor kCurrentMarker = pkCurrent ? MarkerColor(pkCurrent->m_kColor) : QColor();
+    const QPen kRingPen(kCurrentMarker, 2);
+    const QPen kDotPen(kCurrentMarker);
+    const QBrush kRingBrush(QColor(255, 255, 255, 0));
+    const QBrush kMarkerBrush(kCurrentMarker);
     const QFont kLabelFont(QStringLiteral("Bavaria"), 10, QFont::Normal, false);
     QVarLengthArray<QPoint, 256> akCurve;
 
@@ -239,6 +244,7 @@ void QVisemeCurveWidgetLite::paintEvent(QPaintEvent *)
             continue;
 
         akCurve.clear();
+        akCurve.reserve(kSlot.m_lstKeys.size());
         for (const QPointF &kKey : kSlot.m_lstKeys)
             akCurve.append(RevertNormalizedPoint(kKey));
         kPainter.setPen(LinePen(kSlot.m_kColor, 2.0));
@@ -246,16 +252,14 @@ void QVisemeCurveWidgetLite::paintEvent(QPaintEvent *)
         kPainter.drawPolyline(akCurve.constData(), akCurve.size());
 
         if (bShowCurrent) {
-            const QPen kRingPen(kCurrentMarker, 2);
-            const QPen kDotPen(kCurrentMarker);
             for (int k = 0; k < akCurrentPixels.size(); ++k) {
                 if (k == pkCurrent->m_nSelectedKey) {
                     kPainter.setPen(kRingPen);
-                    kPainter.setBrush(QColor(255, 255, 255, 0));
+                    kPainter.setBrush(kRingBrush);
                     kPainter.drawEllipse(akCurrentPixels[k], 9, 9);
                 }
                 kPainter.setPen(kDotPen);
-                kPainter.setBrush(kCurrentMarker);
+                kPainter.setBrush(kMarkerBrush);
                 kPainter.drawEllipse(akCurrentPixels[k], 5, 5);
             }
         }
