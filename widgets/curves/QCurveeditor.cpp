@@ -1,5 +1,7 @@
 #include "QCurveeditor.h"
 
+#include "CurvePaintingPrivate.h"
+
 #include <QAction>
 #include <QImage>
 #include <QMouseEvent>
@@ -10,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+
+using namespace CurvePainting;
 
 namespace {
 
@@ -28,26 +32,11 @@ const QList<QPoint> &DefaultCurve()
     return kCurve;
 }
 
-// Truncates toward zero like a plain conversion, but keeps absurd values (unchecked data set by
-// the host, a collapsed widget) inside the range that painting can handle.
-int TruncToInt(float fValue)
-{
-    if (std::isnan(fValue))
-        return 0;
-    constexpr float kLimit = 1.0e8f;
-    return static_cast<int>(std::max(-kLimit, std::min(kLimit, fValue)));
-}
-
 // Canvas and curve image share the vertical mapping: data y = 0 on the baseline.
 int CanvasY(int nHeight, int nDataY)
 {
     return TruncToInt(float(nHeight) - float(nHeight - kMargin) * kScale * float(nDataY)
                       - float(kMargin));
-}
-
-QPen CurvePen(const QColor &kColor, qreal fWidth)
-{
-    return QPen(QBrush(kColor), fWidth, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin);
 }
 
 QColor PartColor(int nPart)
@@ -120,12 +109,7 @@ void QCurveEditor::Init()
         this->*kDesc.pkMember = pkAction;
     }
 
-    m_kCheckerPixmap = QPixmap(32, 32);
-    m_kCheckerPixmap.fill(Qt::white);
-    QPainter kPainter(&m_kCheckerPixmap);
-    kPainter.fillRect(0, 0, 16, 16, QColor(230, 230, 230));
-    kPainter.fillRect(16, 16, 16, 16, QColor(230, 230, 230));
-    kPainter.end();
+    m_kCheckerPixmap = CheckerTile(32);
 
     InitAllPartsPoints();
 }
@@ -210,10 +194,10 @@ void QCurveEditor::paintEvent(QPaintEvent *)
     QPainterPath kBaseline;
     kBaseline.moveTo(kMargin, nHeight - kMargin);
     kBaseline.lineTo(nWidth - kMargin, nHeight - kMargin);
-    kPainter.strokePath(kBaseline, CurvePen(QColor(32, 32, 32), 2.0));
+    kPainter.strokePath(kBaseline, LinePen(QColor(32, 32, 32), 2.0));
 
     const QList<QPoint> lstPoints = m_kCurveData.value(m_nPart);
-    kPainter.setPen(CurvePen(Qt::black, 1.0));
+    kPainter.setPen(LinePen(Qt::black, 1.0));
     kPainter.setBrush(QColor(64, 64, 64, 196));
     for (const QPoint &kPoint : lstPoints)
         kPainter.drawEllipse(ConvertToCanvasPos(kPoint), 10, 10);
@@ -222,11 +206,11 @@ void QCurveEditor::paintEvent(QPaintEvent *)
     if (!lstPoints.isEmpty()) {
         const QPainterPath kCurve = BezierPath(
             lstPoints, [this](const QPoint &kPoint) { return ConvertToCanvasPos(kPoint); });
-        kPainter.strokePath(kCurve, CurvePen(PartColor(m_nPart), 2.0));
+        kPainter.strokePath(kCurve, LinePen(PartColor(m_nPart), 2.0));
     }
 
     if (m_bShowDivider && m_nDividerNum > 0) {
-        kPainter.setPen(CurvePen(Qt::black, 1.0));
+        kPainter.setPen(LinePen(Qt::black, 1.0));
         const int nStep = (nWidth - 2 * kMargin) / m_nDividerNum;
         for (int i = 0; i <= m_nDividerNum; ++i) {
             const int nX = nStep * i + kMargin;
@@ -338,7 +322,7 @@ void QCurveEditor::GetCurveImage(QImage &kImage)
         BezierPath(m_kCurveData.value(m_nPart),
                    [this](const QPoint &kPoint) { return ConvertToCanvasPosForImage(kPoint); });
     QPainter kPainter(&kImage);
-    kPainter.strokePath(kCurve, CurvePen(Qt::black, 1.0));
+    kPainter.strokePath(kCurve, LinePen(Qt::black, 1.0));
 }
 
 int QCurveEditor::GetWeightingFromCurveImage(QImage &kImage, int nPercent)

@@ -1,5 +1,7 @@
 #include "QVisemeCurveWidgetLite.h"
 
+#include "CurvePaintingPrivate.h"
+
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
@@ -13,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+
+using namespace CurvePainting;
 
 namespace {
 
@@ -35,25 +39,11 @@ const QColor kSlotColors[] = {
     QColor(81, 100, 100), QColor(0, 0, 0),
 };
 
-// Truncates toward zero, keeping values that the host set without checks paintable.
-int TruncToInt(double fValue)
-{
-    if (std::isnan(fValue))
-        return 0;
-    constexpr double kLimit = 1.0e8;
-    return static_cast<int>(std::max(-kLimit, std::min(kLimit, fValue)));
-}
-
 // The marker colour of a slot: its colour lightened by 64 per channel, slightly transparent.
 QColor MarkerColor(const QColor &kColor)
 {
     return QColor(std::min(255, kColor.red() + 64), std::min(255, kColor.green() + 64),
                   std::min(255, kColor.blue() + 64), 196);
-}
-
-QPen LinePen(const QColor &kColor, qreal fWidth)
-{
-    return QPen(QBrush(kColor), fWidth, Qt::SolidLine, Qt::FlatCap, Qt::BevelJoin);
 }
 
 void SortByTime(QList<QPointF> &lstKeys)
@@ -80,12 +70,7 @@ QVisemeCurveWidgetLite::~QVisemeCurveWidgetLite() = default;
 
 void QVisemeCurveWidgetLite::Init()
 {
-    m_kCheckerPixmap = QPixmap(16, 16);
-    m_kCheckerPixmap.fill(Qt::white);
-    QPainter kPainter(&m_kCheckerPixmap);
-    kPainter.fillRect(0, 0, 8, 8, QColor(230, 230, 230));
-    kPainter.fillRect(8, 8, 8, 8, QColor(230, 230, 230));
-    kPainter.end();
+    m_kCheckerPixmap = CheckerTile(16);
 
     // Leave room on the right for the host's column of slot buttons.
     int nRightMargin = kRightMargin;
