@@ -154,6 +154,7 @@ QHoverToolBtnPlugin::QHoverToolBtnPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdFKModifyTableManager.h")
+#include "QKdFKModifyTableManager.h"
 static const VelaWidgetDescriptor::Row kQKdFKModifyTableManagerPluginRow = {
     "QKdFKModifyTableManager", "QKdFKModifyTableManager.h", true,
         "<widget class=\"QKdFKModifyTableManager\" name=\"QKdFKModifyTableManager\">\n"
@@ -175,6 +176,7 @@ QKdFKModifyTableManagerPlugin::QKdFKModifyTableManagerPlugin(QObject *parent)
 #endif
 
 #if __has_include("QKdFKTemplateTableManager.h")
+#include "QKdFKTemplateTableManager.h"
 static const VelaWidgetDescriptor::Row kQKdFKTemplateTableManagerPluginRow = {
     "QKdFKTemplateTableManager", "QKdFKTemplateTableManager.h", true,
         "<widget class=\"QKdFKTemplateTableManager\" name=\"QKdFKTemplateTableManager\">\n"
