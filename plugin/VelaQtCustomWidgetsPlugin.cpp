@@ -5,8 +5,7 @@
 VelaQtCustomWidgetsPlugin::VelaQtCustomWidgetsPlugin(QObject *parent)
     : QObject(parent)
     , m_widgets(CreateVelaDescriptors(this))
-{
-}
+{ }
 
 // The descriptors are children of the collection and go with it.
 VelaQtCustomWidgetsPlugin::~VelaQtCustomWidgetsPlugin() = default;

@@ -8,8 +8,9 @@
 
 // The collection that Qt Designer loads from this library: it owns one descriptor per widget that
 // forms can place, in a fixed order, all in the group "Vela Plugins".
-class VELA_WIDGETS_EXPORT VelaQtCustomWidgetsPlugin : public QObject,
-                                                      public QDesignerCustomWidgetCollectionInterface
+class VELA_WIDGETS_EXPORT VelaQtCustomWidgetsPlugin
+    : public QObject,
+      public QDesignerCustomWidgetCollectionInterface
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface")

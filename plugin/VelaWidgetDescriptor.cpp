@@ -5,8 +5,7 @@
 VelaWidgetDescriptor::VelaWidgetDescriptor(const Row &row, QObject *parent)
     : QObject(parent)
     , m_row(row)
-{
-}
+{ }
 
 VelaWidgetDescriptor::~VelaWidgetDescriptor() = default;
 

@@ -14,8 +14,12 @@ class CArrayList : public std::vector<T>
 public:
     using std::vector<T>::vector;
     CArrayList() = default;
-    CArrayList(const std::vector<T> &other) : std::vector<T>(other) { }
-    CArrayList(std::vector<T> &&other) : std::vector<T>(std::move(other)) { }
+    CArrayList(const std::vector<T> &other)
+        : std::vector<T>(other)
+    { }
+    CArrayList(std::vector<T> &&other)
+        : std::vector<T>(std::move(other))
+    { }
 
     int GetCount() const { return static_cast<int>(this->size()); }
 };
@@ -27,8 +31,12 @@ class CMap : public Base
 public:
     using Base::Base;
     CMap() = default;
-    CMap(const Base &other) : Base(other) { }
-    CMap(Base &&other) : Base(std::move(other)) { }
+    CMap(const Base &other)
+        : Base(other)
+    { }
+    CMap(Base &&other)
+        : Base(std::move(other))
+    { }
 
     bool Contains(const K &key) const { return this->find(key) != this->end(); }
 };

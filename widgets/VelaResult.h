@@ -16,7 +16,9 @@ struct Result
     };
 
     constexpr Result() = default;
-    constexpr Result(std::uint32_t code) : m_code(code) { }
+    constexpr Result(std::uint32_t code)
+        : m_code(code)
+    { }
 
     constexpr std::uint32_t code() const { return m_code; }
     constexpr bool succeeded() const { return (m_code & 0x80000000u) == 0; }

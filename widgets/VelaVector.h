@@ -12,7 +12,11 @@ struct CVector3
     T z = T();
 
     constexpr CVector3() = default;
-    constexpr CVector3(T ax, T ay, T az) : x(ax), y(ay), z(az) { }
+    constexpr CVector3(T ax, T ay, T az)
+        : x(ax)
+        , y(ay)
+        , z(az)
+    { }
 
     friend constexpr bool operator==(const CVector3 &a, const CVector3 &b)
     {

@@ -10,14 +10,14 @@
 #include <QTime>
 #include <QVBoxLayout>
 
-static const char kGalleryStyle[]
-    = "QMainWindow, QWidget#galleryPage, QScrollArea, QScrollArea > QWidget > QWidget"
-      " { background-color: #282828; color: #d0d0d0; }"
-      "QListWidget { background-color: #1c1c1c; color: #d0d0d0; border: none; }"
-      "QListWidget::item:selected { background-color: #505050; color: #82be0f; }"
-      "QPlainTextEdit { background-color: #1c1c1c; color: #a0a0a0; border: 1px solid #505050; }"
-      "QLabel#galleryTitle { color: #82be0f; font-weight: bold; font-size: 14px; }"
-      "QSlider#EditedWidget::handle:horizontal { background: #82be0f; }";
+static const char kGalleryStyle[] =
+    "QMainWindow, QWidget#galleryPage, QScrollArea, QScrollArea > QWidget > QWidget"
+    " { background-color: #282828; color: #d0d0d0; }"
+    "QListWidget { background-color: #1c1c1c; color: #d0d0d0; border: none; }"
+    "QListWidget::item:selected { background-color: #505050; color: #82be0f; }"
+    "QPlainTextEdit { background-color: #1c1c1c; color: #a0a0a0; border: 1px solid #505050; }"
+    "QLabel#galleryTitle { color: #82be0f; font-weight: bold; font-size: 14px; }"
+    "QSlider#EditedWidget::handle:horizontal { background: #82be0f; }";
 
 GalleryWindow::GalleryWindow(QWidget *parent)
     : QMainWindow(parent)
@@ -96,7 +96,8 @@ QString GalleryWindow::sampleDir() const
 void GalleryWindow::log(const QString &line)
 {
     if (m_log)
-        m_log->appendPlainText(QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  ")) + line);
+        m_log->appendPlainText(QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  "))
+                               + line);
 }
 
 QWidget *GalleryWindow::mainWindow() const

@@ -1,0 +1,95 @@
+#include "QSliderEx.h"
+
+#include "VelaEditRulesPrivate.h"
+
+using namespace Vela;
+
+QSliderEx::QSliderEx(QWidget *parent)
+    : QSlider(parent)
+    , m_nRecordValue(value())
+{ }
+
+QSliderEx::QSliderEx(Qt::Orientation orientation, QWidget *parent)
+    : QSlider(orientation, parent)
+    , m_nRecordValue(value())
+{ }
+
+QSliderEx::~QSliderEx() = default;
+
+void QSliderEx::SetValue(int value)
+{
+    QSlider::setValue(value);
+    m_nRecordValue = this->value();
+}
+
+void QSliderEx::setValue(int) { }
+
+void QSliderEx::EmitRecordEditingValue()
+{
+    m_nRecordValue = value();
+    emit RecordEditingValue();
+}
+
+void QSliderEx::wheelEvent(QWheelEvent *event)
+{
+    if (EditRules::AcceptsWheel(this, event))
+        QSlider::wheelEvent(event);
+}
+
+void QSliderEx::mousePressEvent(QMouseEvent *event)
+{
+    m_bPressed = true;
+    QSlider::mousePressEvent(event);
+}
+
+void QSliderEx::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_bPressed)
+        m_bDragged = isSliderDown();
+    QSlider::mouseMoveEvent(event);
+}
+
+void QSliderEx::mouseReleaseEvent(QMouseEvent *event)
+{
+    m_bPressed = false;
+    // The dragged flag stays set until the next move while pressed.
+    const SliderAction action = repeatAction();
+    if (m_bDragged || action == SliderPageStepAdd || action == SliderPageStepSub)
+        EmitRecordEditingValue();
+    QSlider::mouseReleaseEvent(event);
+}
+
+void QSliderEx::focusInEvent(QFocusEvent *event)
+{
+    EditRules::FocusGained(this);
+    m_nRecordValue = value();
+    QWidget::focusInEvent(event);
+}
+
+void QSliderEx::focusOutEvent(QFocusEvent *event)
+{
+    EditRules::FocusLost(this);
+    if (value() != m_nRecordValue)
+        EmitRecordEditingValue();
+    QWidget::focusOutEvent(event);
+}
+
+void QSliderEx::keyPressEvent(QKeyEvent *event)
+{
+    QAbstractSlider::keyPressEvent(event);
+}
+
+void QSliderEx::keyReleaseEvent(QKeyEvent *event)
+{
+    QWidget::keyReleaseEvent(event);
+}
+
+void QSliderEx::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+}
+
+void QSliderEx::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+}
