@@ -408,7 +408,7 @@ void tst_Designer::descriptors()
         QVERIFY(xml.startsWith(run + QLatin1String("<ui language=\"c++\">")));
         QVERIFY(!xml.contains(QLatin1Char('\n')));
         QVERIFY(!xml.contains(QString(26, QLatin1Char(' '))));
-        QCOMPARE(xml.count(run), 10);
+        QCOMPARE(xml.count(run), 11);
         QCOMPARE(parsed.extends, QStringLiteral("QWidget"));
         QCOMPARE(parsed.customClass, d->name());
         QVERIFY(parsed.hasAddPageMethod);
