@@ -18,10 +18,7 @@ QComboSpinBox::QComboSpinBox(QWidget *parent)
     , m_fnSpinToSlider(Identity)
     , m_fnSliderToSpin(Identity)
 {
-    m_kUi.setupUi(this);
-    ComboEditor::LoadArrowImages(m_kUi.qtLeftArrowLabel, m_kUi.qtRightArrowLabel);
-    ComboEditor::ArrangeLayout(this, m_kUi.verticalLayout, m_kUi.qtLabel, m_kUi.horizontalLayout,
-                               m_eLabelOrientation);
+    ComboEditor::SetUpForm(this, m_kUi, m_eLabelOrientation);
 
     QSpinBoxEx *spinBox = m_kUi.qtSpinBox;
     QSliderEx *slider = m_kUi.qtHorizontalSlider;
@@ -33,8 +30,6 @@ QComboSpinBox::QComboSpinBox(QWidget *parent)
     connect(slider, &QSlider::sliderPressed, this, &QComboSpinBox::OnSliderMousePress);
     connect(slider, &QSliderEx::RecordEditingValue, this, &QComboSpinBox::OnSliderMouseRelease);
 
-    slider->installEventFilter(this);
-    m_kUi.qtLabel->installEventFilter(this);
     UpdateMaxMinIndicator();
 }
 

@@ -73,6 +73,16 @@ double DecimalScale(int nDecimals)
     return std::pow(10.0, nDecimals);
 }
 
+int ScaledPosition(double dValue, int nDecimals)
+{
+    return TruncateToPosition(DecimalScale(nDecimals) * dValue);
+}
+
+int LogPosition(double dValue, int nDecimals)
+{
+    return TruncateToPosition(DecimalScale(nDecimals) * std::log10(dValue));
+}
+
 int TruncateToPosition(double dValue)
 {
     constexpr int kMin = std::numeric_limits<int>::min();

@@ -30,6 +30,19 @@ void ArrangeLayout(QWidget *editor, QVBoxLayout *formLayout, QLabel *label, QHBo
 // leaves the arrow empty.
 void LoadArrowImages(QLabel *leftArrow, QLabel *rightArrow);
 
+// Builds the form on the editor, reads the arrow images, lays the form out and lets the editor
+// watch the slider and the caption for the double-click reset.
+template<typename Form>
+void SetUpForm(QWidget *editor, Form &form, Qt::Orientation eLabelOrientation)
+{
+    form.setupUi(editor);
+    LoadArrowImages(form.qtLeftArrowLabel, form.qtRightArrowLabel);
+    ArrangeLayout(editor, form.verticalLayout, form.qtLabel, form.horizontalLayout,
+                  eLabelOrientation);
+    form.qtHorizontalSlider->installEventFilter(editor);
+    form.qtLabel->installEventFilter(editor);
+}
+
 // Names the slider "EditedWidget" or "UneditedWidget" and re-polishes it with the editor's style,
 // so that style-sheet rules keyed on the name apply at once.
 void MarkSlider(QWidget *editor, QSlider *slider, bool bEdited);
@@ -42,6 +55,14 @@ void SetSliderQuietly(QSliderEx *slider, int nPosition);
 
 // 10 to the power of the spin box's decimals: slider units per spin-box unit.
 double DecimalScale(int nDecimals);
+
+// The fixed-point slider position of a spin value: one slider unit per unit of the last decimal
+// place, truncated toward zero without rounding (0.29 at 2 decimals gives 28).
+int ScaledPosition(double dValue, int nDecimals);
+
+// The logarithmic slider position of a spin value: 10^decimals units per decade, truncated toward
+// zero (1 gives 0, 10 gives 10^decimals). Zero and negative values give the smallest integer.
+int LogPosition(double dValue, int nDecimals);
 
 // Truncates toward zero into the slider's integer range; values beyond it (and NaN, the
 // logarithm of a negative value) saturate, NaN and minus infinity at the smallest integer.
