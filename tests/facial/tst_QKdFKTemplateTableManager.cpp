@@ -95,6 +95,7 @@ private slots:
     void missingFrameUsesThumbnail();
     void rebuildReplacesGrid();
     void withoutColumnLimit();
+    void hostNarrowedColumns();
     void thumbnailAboveCaption();
     void userPicksTemplate();
 };
@@ -417,6 +418,17 @@ void tst_QKdFKTemplateTableManager::withoutColumnLimit()
     QCOMPARE(kTable.rowCount(), 3);
     QCOMPARE(kTable.columnCount(), 0);
     QCOMPARE(kTable.GetSelectedExpTmpName(0, 0), QString());
+}
+
+void tst_QKdFKTemplateTableManager::hostNarrowedColumns()
+{
+    // Three templates per row, but the host left only two columns: each row's third is dropped.
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(3, 32, 32);
+    kTable.setColumnCount(2);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 2));
+    QCOMPARE(Captions(kTable),
+             QStringList({ "Brow Raise 1", "Brow Raise 2", "Jaw.Open", "Smile" }));
 }
 
 void tst_QKdFKTemplateTableManager::thumbnailAboveCaption()

@@ -15,7 +15,7 @@
 class CKdFKModifyCellWidget;
 
 // The face sections of the facial-key modify channels; the values index the section maps.
-enum ESection {
+enum ESection : int {
     ESection_Brow = 0,
     ESection_Eye = 1,
     ESection_Nose = 2,

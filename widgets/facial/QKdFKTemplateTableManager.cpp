@@ -118,16 +118,15 @@ bool QKdFKTemplateTableManager::UpdateTable(QString strTemplatePath, QString str
     int nRow = 0;
     int nColumn = 0;
     for (const QString &strName : qAsConst(kNames)) {
-        if (nRow >= m_nLimitRowNum)
-            break;
         if (nColumn >= m_nLimitColNum) {
             ++nRow;
             nColumn = 0;
-            if (nRow >= m_nLimitRowNum)
-                break;
         }
-        if (nColumn >= columnCount())
-            break; // no column to hold it (the manager was never given a column limit)
+        if (nRow >= m_nLimitRowNum)
+            break;
+        const int nItemColumn = nColumn++;
+        if (nItemColumn >= columnCount())
+            continue; // the host narrowed the grid: this template has no cell
 
         const int nDot = strName.lastIndexOf(QLatin1Char('.'));
         const QString strCaption = nDot < 0 ? strName : strName.left(nDot);
@@ -138,8 +137,7 @@ bool QKdFKTemplateTableManager::UpdateTable(QString strTemplatePath, QString str
                                  strCaption);
         pkItem->setTextAlignment(Qt::AlignHCenter);
         pkItem->setFlags(Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
-        setItem(nRow, nColumn, pkItem);
-        ++nColumn;
+        setItem(nRow, nItemColumn, pkItem);
     }
     return true;
 }
