@@ -422,6 +422,10 @@ void tst_QKdFKModifyTableManager::badIniFiles_data()
     QTest::newRow("group given twice")
         << kDuplicateGroup << true << 74 << QVector<int>({ -5, 5, -10, 90 }) << 0;
 
+    QByteArray kOversized = CompleteIni("0, 60", "-10, 90");
+    kOversized += ";" + QByteArray(5 * 1024 * 1024, 'x') + "\n";
+    QTest::newRow("oversized file") << kOversized << true << 3 << kDefault << 0;
+
     QByteArray kMalformed = CompleteIni("0, 60", "-10, 90");
     kMalformed.replace("[EyeModifyString]", "[EyeModifyString\nnot a line\n=\n");
     QTest::newRow("malformed lines")

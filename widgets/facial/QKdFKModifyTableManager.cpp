@@ -28,7 +28,7 @@ void FillExpressionMap(QKdFKModifyTableManager::ExpressionMap &kMap, int nFirstI
         kMap[nIndex] = nFirstId + nIndex;
 }
 
-// The host's file is only ever read: QSettings would rewrite (normalise) it on a write or sync.
+// Whether the path names a regular file small enough to be a facial-key file.
 bool IsReadableIniFile(const QString &strIniPath)
 {
     const QFileInfo kInfo(strIniPath);
@@ -197,6 +197,7 @@ QString QKdFKModifyTableManager::GetSectionModifyString(const QString &strIniPat
     strKey.clear();
     if (!IsReadableIniFile(strIniPath))
         return QString();
+    // The host's file is only ever read: a write or sync would rewrite (normalise) it.
     QSettings kSettings(strIniPath, QSettings::IniFormat, this);
     kSettings.setIniCodec("UTF-8");
     kSettings.beginGroup(strGroup);
