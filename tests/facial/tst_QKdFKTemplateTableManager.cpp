@@ -89,6 +89,7 @@ private slots:
     void noTemplates_data();
     void noTemplates();
     void templateWithoutThumbnail();
+    void wideThumbnailKeepsProportions();
     void badThumbnails_data();
     void badThumbnails();
     void unusualFileNames();
@@ -293,6 +294,29 @@ void tst_QKdFKTemplateTableManager::templateWithoutThumbnail()
     QCOMPARE(kFilled.pixel(0, 0), kFrameColor);
     QCOMPARE(kFilled.pixel(1, 1), qRgb(255, 0, 0));
     QCOMPARE(kFilled.pixel(60, 60), qRgb(255, 0, 0));
+}
+
+void tst_QKdFKTemplateTableManager::wideThumbnailKeepsProportions()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    WriteFile(kFolder.filePath(QStringLiteral("Wide.exp")), "template");
+    kFolder.mkpath(QStringLiteral("Icons"));
+    QImage kWide(80, 40, QImage::Format_ARGB32);
+    kWide.fill(Qt::red);
+    QVERIFY(kWide.save(kFolder.filePath(QStringLiteral("Icons/Wide.png"))));
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(1, 62, 62);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+
+    // 80 x 40 becomes 60 x 30 at (1, 1): the lower half of the frame stays empty.
+    const QImage kIcon = IconImage(kTable, 0, 0, QSize(62, 62));
+    QCOMPARE(kIcon.pixel(1, 1), qRgb(255, 0, 0));
+    QCOMPARE(kIcon.pixel(60, 30), qRgb(255, 0, 0));
+    QCOMPARE(qAlpha(kIcon.pixel(30, 32)), 0);
+    QCOMPARE(qAlpha(kIcon.pixel(30, 60)), 0);
+    QCOMPARE(kIcon.pixel(0, 61), kFrameColor);
 }
 
 void tst_QKdFKTemplateTableManager::badThumbnails_data()
