@@ -1,5 +1,6 @@
 #include "VelaWidgetCatalog.h"
 
+#include "CKdFKModifyCellWidget.h"
 #include "QComboLabelButton.h"
 #include "QDialEx.h"
 #include "QIntegerSliderWithRenameButton.h"
@@ -25,6 +26,8 @@ const QVector<Entry> &Widgets()
         list.append({ QStringLiteral("QDialEx"), [] { return new QDialEx; } });
         list.append({ QStringLiteral("QComboLabelButton"),
                       [] { return new QComboLabelButton(QStringLiteral("Brow_L")); } });
+        list.append(
+            { QStringLiteral("CKdFKModifyCellWidget"), [] { return new CKdFKModifyCellWidget; } });
         list.append({ QStringLiteral("QIntegerSliderWithRenameButton"),
                       [] { return new QIntegerSliderWithRenameButton; } });
         list.append({ QStringLiteral("QSbsImageWidget"), [] {
