@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QKeyEvent>
+#include <QMetaEnum>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QMouseEvent>
@@ -57,6 +58,8 @@ static void invokeRandomSlot(QObject *object, const QVector<QMetaMethod> &method
     if (methods.isEmpty())
         return;
     const QMetaMethod method = methods.at(in.index(methods.size()));
+    if (qEnvironmentVariableIsSet("VELA_FUZZ_TRACE"))
+        qInfo("  call %s", method.methodSignature().constData());
     QVariant values[10];
     QGenericArgument args[10];
     for (int i = 0; i < method.parameterCount() && i < 10; ++i) {
@@ -118,7 +121,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     EnsureApplication();
     Input in(data, size);
     const QVector<VelaCatalog::Entry> &factories = VelaCatalog::Widgets();
-    std::unique_ptr<QWidget> widget(factories.at(in.index(factories.size())).create());
+    const VelaCatalog::Entry &entry = factories.at(in.index(factories.size()));
+    // VELA_FUZZ_TRACE=1 prints what a reproducer does.
+    static const bool trace = qEnvironmentVariableIsSet("VELA_FUZZ_TRACE");
+    if (trace)
+        qInfo("widget %s", qPrintable(entry.name));
+    std::unique_ptr<QWidget> widget(entry.create());
     widget->resize(320, 200);
     widget->show();
 
@@ -143,7 +151,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         case 0:
             if (!properties.isEmpty()) {
                 const QMetaProperty property = properties.at(in.index(properties.size()));
-                const QVariant value = randomValue(property.userType(), in);
+                // Enumerations take one of their own values, as any caller of the setter would.
+                const QMetaEnum enumerator = property.enumerator();
+                const QVariant value = property.isEnumType() && enumerator.keyCount() > 0
+                    ? QVariant(enumerator.value(in.index(enumerator.keyCount())))
+                    : randomValue(property.userType(), in);
+                if (trace)
+                    qInfo("  property %s = %s", property.name(), qPrintable(value.toString()));
                 if (value.isValid())
                     property.write(widget.get(), value);
             }

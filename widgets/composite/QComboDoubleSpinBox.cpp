@@ -1,5 +1,7 @@
 #include "QComboDoubleSpinBox.h"
 
+#include "VelaTeardownPrivate.h"
+
 #include "VelaComboEditorPrivate.h"
 
 #include <QSignalBlocker>
@@ -32,7 +34,10 @@ QComboDoubleSpinBox::QComboDoubleSpinBox(QWidget *parent)
     UpdateMaxMinIndicator();
 }
 
-QComboDoubleSpinBox::~QComboDoubleSpinBox() = default;
+QComboDoubleSpinBox::~QComboDoubleSpinBox()
+{
+    Vela::DetachFromChildren(this);
+}
 
 double QComboDoubleSpinBox::Value()
 {

@@ -1,5 +1,7 @@
 #include "QComboLabelButton.h"
 
+#include "VelaTeardownPrivate.h"
+
 QComboLabelButton::QComboLabelButton(QString text, QWidget *parent)
     : QLabel(parent)
 {
@@ -9,7 +11,10 @@ QComboLabelButton::QComboLabelButton(QString text, QWidget *parent)
     m_kUi.qtDeleteButton->setFocusPolicy(Qt::NoFocus);
 }
 
-QComboLabelButton::~QComboLabelButton() = default;
+QComboLabelButton::~QComboLabelButton()
+{
+    Vela::DetachFromChildren(this);
+}
 
 QString QComboLabelButton::GetLabelText()
 {

@@ -1,5 +1,7 @@
 #include "QComboNonlinearDoubleSpinBox.h"
 
+#include "VelaTeardownPrivate.h"
+
 #include "VelaComboEditorPrivate.h"
 
 #include <QSignalBlocker>
@@ -36,7 +38,10 @@ QComboNonlinearDoubleSpinBox::QComboNonlinearDoubleSpinBox(QWidget *parent)
     UpdateMaxMinIndicator();
 }
 
-QComboNonlinearDoubleSpinBox::~QComboNonlinearDoubleSpinBox() = default;
+QComboNonlinearDoubleSpinBox::~QComboNonlinearDoubleSpinBox()
+{
+    Vela::DetachFromChildren(this);
+}
 
 double QComboNonlinearDoubleSpinBox::Value()
 {

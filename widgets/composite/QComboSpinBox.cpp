@@ -1,5 +1,7 @@
 #include "QComboSpinBox.h"
 
+#include "VelaTeardownPrivate.h"
+
 #include "VelaComboEditorPrivate.h"
 
 #include <QSignalBlocker>
@@ -33,7 +35,10 @@ QComboSpinBox::QComboSpinBox(QWidget *parent)
     UpdateMaxMinIndicator();
 }
 
-QComboSpinBox::~QComboSpinBox() = default;
+QComboSpinBox::~QComboSpinBox()
+{
+    Vela::DetachFromChildren(this);
+}
 
 int QComboSpinBox::Value()
 {

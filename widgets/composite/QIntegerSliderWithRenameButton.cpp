@@ -1,12 +1,17 @@
 #include "QIntegerSliderWithRenameButton.h"
 
+#include "VelaTeardownPrivate.h"
+
 QIntegerSliderWithRenameButton::QIntegerSliderWithRenameButton(QWidget *parent)
     : QWidget(parent)
 {
     m_kUi.setupUi(this);
 }
 
-QIntegerSliderWithRenameButton::~QIntegerSliderWithRenameButton() = default;
+QIntegerSliderWithRenameButton::~QIntegerSliderWithRenameButton()
+{
+    Vela::DetachFromChildren(this);
+}
 
 QLabel *QIntegerSliderWithRenameButton::GetNameLabel()
 {

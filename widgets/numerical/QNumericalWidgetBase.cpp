@@ -1,5 +1,7 @@
 #include "QNumericalWidgetBase.h"
 
+#include "VelaTeardownPrivate.h"
+
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -14,12 +16,7 @@ QNumericalWidgetBase::QNumericalWidgetBase(QWidget *parent)
 
 QNumericalWidgetBase::~QNumericalWidgetBase()
 {
-    // Editors still emit while QWidget tears them down (a focused spin box reports editingFinished
-    // as focus leaves it). The concrete widget that packs their values is gone by then, so cut
-    // every connection from the children to this widget first.
-    const QList<QObject *> descendants = findChildren<QObject *>();
-    for (QObject *descendant : descendants)
-        disconnect(descendant, nullptr, this, nullptr);
+    Vela::DetachFromChildren(this);
 }
 
 Vela::Result QNumericalWidgetBase::Initialize(const Lu::CDynamicWidgetVariableBase &var,
