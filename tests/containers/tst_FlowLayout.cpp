@@ -1,0 +1,280 @@
+#include "FlowLayout.h"
+#include "VelaTest.h"
+
+#include <QPointer>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <QtTest>
+
+// A layout item of fixed size that counts its own destruction.
+class CountedItem : public QSpacerItem
+{
+public:
+    CountedItem(int w, int h, int *deleted)
+        : QSpacerItem(w, h, QSizePolicy::Fixed, QSizePolicy::Fixed)
+        , m_deleted(deleted)
+    { }
+    ~CountedItem() override { ++*m_deleted; }
+
+private:
+    int *m_deleted;
+};
+
+static QWidget *fixedWidget(QWidget *parent, const QSize &size)
+{
+    auto *w = new QWidget(parent);
+    w->setFixedSize(size);
+    return w;
+}
+
+class tst_FlowLayout : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void emptyLayout();
+    void itemAccess();
+    void destructorDeletesItems();
+    void rowsAtWidths_data();
+    void rowsAtWidths();
+    void knownPositions();
+    void wideItemStaysAlone();
+    void minimumAndSizeHint();
+    void smartSpacingWithoutParent();
+    void smartSpacingFromParentWidget();
+    void smartSpacingFromParentLayout();
+    void reflowsWithWidget();
+};
+
+void tst_FlowLayout::emptyLayout()
+{
+    FlowLayout layout(7, 4, 6);
+    QCOMPARE(layout.count(), 0);
+    QCOMPARE(layout.heightForWidth(300), 14);
+    QCOMPARE(layout.heightForWidth(0), 14);
+    QCOMPARE(layout.minimumSize(), QSize(14, 14));
+    QCOMPARE(layout.sizeHint(), QSize(14, 14));
+    QVERIFY(layout.hasHeightForWidth());
+    QCOMPARE(layout.expandingDirections(), Qt::Orientations());
+    QCOMPARE(layout.contentsMargins(), QMargins(7, 7, 7, 7));
+}
+
+void tst_FlowLayout::itemAccess()
+{
+    int deleted = 0;
+    FlowLayout layout(0, 2, 2);
+    auto *a = new CountedItem(10, 10, &deleted);
+    auto *b = new CountedItem(20, 10, &deleted);
+    layout.addItem(a);
+    layout.addItem(b);
+    QCOMPARE(layout.count(), 2);
+    QCOMPARE(layout.itemAt(0), a);
+    QCOMPARE(layout.itemAt(1), b);
+    QVERIFY(!layout.itemAt(-1));
+    QVERIFY(!layout.itemAt(2));
+    QVERIFY(!layout.takeAt(-1));
+    QVERIFY(!layout.takeAt(layout.count()));
+    QCOMPARE(layout.count(), 2);
+    QCOMPARE(layout.takeAt(0), a);
+    QCOMPARE(layout.count(), 1);
+    QCOMPARE(layout.itemAt(0), b);
+    delete a;
+    QCOMPARE(deleted, 1);
+}
+
+void tst_FlowLayout::destructorDeletesItems()
+{
+    int deleted = 0;
+    {
+        FlowLayout layout(0, 0, 0);
+        for (int i = 0; i < 5; ++i)
+            layout.addItem(new CountedItem(5, 5, &deleted));
+    }
+    QCOMPARE(deleted, 5);
+
+    // Widget items are deleted, their widgets stay with their parent.
+    QWidget host;
+    QPointer<QWidget> child = fixedWidget(&host, QSize(10, 10));
+    auto *layout = new FlowLayout(&host, 0, 0, 0);
+    layout->addWidget(child);
+    delete layout;
+    QVERIFY(child);
+}
+
+void tst_FlowLayout::rowsAtWidths_data()
+{
+    QTest::addColumn<int>("width");
+    for (int width : { 1, 30, 61, 62, 100, 137, 200, 333, 1000 })
+        QTest::addRow("%d", width) << width;
+}
+
+// Whatever the width: reading order is kept, no two items overlap, a row breaks only where the
+// next item would cross the right edge, rows are spaced by the tallest item plus the vertical
+// spacing, and heightForWidth is the height the placement uses.
+void tst_FlowLayout::rowsAtWidths()
+{
+    QFETCH(int, width);
+    const int margin = 5, hSpace = 4, vSpace = 6;
+    const QList<QSize> sizes = { { 40, 20 }, { 20, 30 }, { 55, 10 }, { 30, 30 }, { 12, 12 },
+                                 { 60, 25 }, { 25, 25 }, { 8, 40 },  { 33, 15 } };
+    QWidget host;
+    auto *layout = new FlowLayout(&host, margin, hSpace, vSpace);
+    QList<QWidget *> widgets;
+    for (const QSize &size : sizes) {
+        widgets.append(fixedWidget(&host, size));
+        layout->addWidget(widgets.last());
+    }
+    const QRect rect(0, 0, width, 10000);
+    layout->setGeometry(rect);
+    const QRect effective = rect.adjusted(margin, margin, -margin, -margin);
+
+    int rowTop = effective.top();
+    int rowHeight = 0;
+    int rowRight = -1; // right edge of the previous item in the row, -1 at a row start
+    for (int i = 0; i < widgets.size(); ++i) {
+        const QRect g = widgets.at(i)->geometry();
+        QCOMPARE(g.size(), sizes.at(i));
+        for (int j = 0; j < i; ++j)
+            QVERIFY2(!g.intersects(widgets.at(j)->geometry()), qPrintable(QString::number(i)));
+        if (rowRight >= 0 && g.top() == rowTop) {
+            // Same row: exactly the spacing after the previous item, and inside the right edge.
+            QCOMPARE(g.left(), rowRight + 1 + hSpace);
+            QVERIFY(g.right() <= effective.right());
+        } else if (rowRight >= 0) {
+            // New row: the item did not fit after the previous one.
+            QVERIFY(rowRight + 1 + hSpace + g.width() - 1 > effective.right());
+            QCOMPARE(g.top(), rowTop + rowHeight + vSpace);
+            QCOMPARE(g.left(), effective.left());
+            rowTop = g.top();
+            rowHeight = 0;
+        } else {
+            QCOMPARE(g.topLeft(), effective.topLeft());
+        }
+        rowRight = g.right();
+        rowHeight = qMax(rowHeight, g.height());
+    }
+    QCOMPARE(layout->heightForWidth(width), rowTop + rowHeight + margin);
+    QCOMPARE(host.heightForWidth(width), layout->heightForWidth(width));
+}
+
+void tst_FlowLayout::knownPositions()
+{
+    QWidget host;
+    auto *layout = new FlowLayout(&host, 5, 4, 6);
+    QWidget *a = fixedWidget(&host, { 40, 20 });
+    QWidget *b = fixedWidget(&host, { 40, 30 });
+    QWidget *c = fixedWidget(&host, { 40, 20 });
+    for (QWidget *w : { a, b, c })
+        layout->addWidget(w);
+    // Effective area 5..94: a and b fit in one row (5..44, 49..88), c wraps below the taller b.
+    layout->setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(a->geometry(), QRect(5, 5, 40, 20));
+    QCOMPARE(b->geometry(), QRect(49, 5, 40, 30));
+    QCOMPARE(c->geometry(), QRect(5, 41, 40, 20));
+    QCOMPARE(layout->heightForWidth(100), 66);
+    // Wide enough for all three on one row.
+    layout->setGeometry(QRect(0, 0, 139, 100));
+    QCOMPARE(c->geometry(), QRect(93, 5, 40, 20));
+    QCOMPARE(layout->heightForWidth(139), 40);
+    // One pixel less and c crosses the right edge.
+    QCOMPARE(layout->heightForWidth(138), 66);
+    // Placement follows the given rectangle's origin.
+    layout->setGeometry(QRect(10, 20, 139, 100));
+    QCOMPARE(a->geometry().topLeft(), QPoint(15, 25));
+}
+
+void tst_FlowLayout::wideItemStaysAlone()
+{
+    QWidget host;
+    auto *layout = new FlowLayout(&host, 0, 3, 3);
+    QWidget *wide = fixedWidget(&host, { 500, 10 });
+    QWidget *next = fixedWidget(&host, { 10, 10 });
+    layout->addWidget(wide);
+    layout->addWidget(next);
+    layout->setGeometry(QRect(0, 0, 100, 100));
+    QCOMPARE(wide->geometry(), QRect(0, 0, 500, 10));
+    QCOMPARE(next->geometry(), QRect(0, 13, 10, 10));
+    QCOMPARE(layout->heightForWidth(100), 23);
+}
+
+void tst_FlowLayout::minimumAndSizeHint()
+{
+    QWidget host;
+    auto *layout = new FlowLayout(&host, 3, 2, 2);
+    auto *a = new QWidget(&host);
+    a->setMinimumSize(30, 5);
+    auto *b = new QWidget(&host);
+    b->setMinimumSize(10, 25);
+    layout->addWidget(a);
+    layout->addWidget(b);
+    QCOMPARE(layout->minimumSize(), QSize(36, 31));
+    QCOMPARE(layout->sizeHint(), layout->minimumSize());
+}
+
+void tst_FlowLayout::smartSpacingWithoutParent()
+{
+    QWidget host;
+    FlowLayout layout(0, -1, -1);
+    QCOMPARE(layout.horizontalSpacing(), -1);
+    QCOMPARE(layout.verticalSpacing(), -1);
+    QWidget *a = fixedWidget(&host, { 20, 20 });
+    QWidget *b = fixedWidget(&host, { 20, 20 });
+    QWidget *c = fixedWidget(&host, { 20, 20 });
+    layout.addItem(new QWidgetItem(a));
+    layout.addItem(new QWidgetItem(b));
+    layout.addItem(new QWidgetItem(c));
+    // Spacing falls back to the items' style: push-button spacing.
+    const int h =
+        a->style()->layoutSpacing(QSizePolicy::PushButton, QSizePolicy::PushButton, Qt::Horizontal);
+    const int v =
+        a->style()->layoutSpacing(QSizePolicy::PushButton, QSizePolicy::PushButton, Qt::Vertical);
+    layout.setGeometry(QRect(0, 0, 40 + h + 1, 200));
+    QCOMPARE(b->geometry().topLeft(), QPoint(20 + h, 0));
+    QCOMPARE(c->geometry().topLeft(), QPoint(0, 20 + v));
+}
+
+void tst_FlowLayout::smartSpacingFromParentWidget()
+{
+    QWidget host;
+    auto *layout = new FlowLayout(&host, 0, -1, -1);
+    QCOMPARE(layout->horizontalSpacing(),
+             host.style()->pixelMetric(QStyle::PM_LayoutHorizontalSpacing, nullptr, &host));
+    QCOMPARE(layout->verticalSpacing(),
+             host.style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing, nullptr, &host));
+    // Explicit spacings win, 0 included.
+    FlowLayout fixed(&host, 0, 0, 9);
+    QCOMPARE(fixed.horizontalSpacing(), 0);
+    QCOMPARE(fixed.verticalSpacing(), 9);
+}
+
+void tst_FlowLayout::smartSpacingFromParentLayout()
+{
+    QWidget host;
+    auto *outer = new QVBoxLayout(&host);
+    outer->setSpacing(11);
+    auto *flow = new FlowLayout(0, -1, -1);
+    outer->addLayout(flow);
+    QCOMPARE(flow->horizontalSpacing(), 11);
+    QCOMPARE(flow->verticalSpacing(), 11);
+}
+
+void tst_FlowLayout::reflowsWithWidget()
+{
+    QWidget host;
+    auto *layout = new FlowLayout(&host, 0, 5, 5);
+    QList<QWidget *> thumbs;
+    for (int i = 0; i < 6; ++i) {
+        thumbs.append(fixedWidget(&host, { 45, 45 }));
+        layout->addWidget(thumbs.last());
+    }
+    host.resize(300, 200);
+    host.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&host));
+    QTRY_COMPARE(thumbs.at(5)->geometry().topLeft(), QPoint(250, 0));
+    host.resize(100, 200);
+    QTRY_COMPARE(thumbs.at(5)->geometry().topLeft(), QPoint(50, 100));
+    QCOMPARE(host.heightForWidth(100), 145);
+}
+
+VELA_TEST_CLASS(tst_FlowLayout)
+#include "tst_FlowLayout.moc"

@@ -1,0 +1,288 @@
+#include "QDragDropListWidget.h"
+#include "VelaDropTest.h"
+#include "VelaTest.h"
+
+#include <QtTest>
+
+namespace {
+
+using RecordingListInterface =
+    VelaDropTest::RecordingInterface<QDragDropListWidgetInterface, QListWidgetItem>;
+
+constexpr int kDropTargetRole = Qt::UserRole + 10;
+
+} // namespace
+
+class tst_QDragDropListWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void noParentRefusesEveryDrag();
+    void noInterfaceAcceptsNothing();
+    void dragEnterAsksInterface_data();
+    void dragEnterAsksInterface();
+    void dragWithoutLinksIsRefused();
+    void dropOnEmptySpaceOffersAllFiles_data();
+    void dropOnEmptySpaceOffersAllFiles();
+    void dropOnItemOffersFirstFile_data();
+    void dropOnItemOffersFirstFile();
+    void refusedDropIsIgnored();
+    void dragMoveMarksTarget();
+    void dragMoveRefusesNegativeItems();
+    void rightPressKeepsSelection();
+    void leftPressSelects();
+    void rightReleaseCallsInterface();
+    void rightReleaseWithoutInterface();
+
+private:
+    QPoint itemCenter(int row) const;
+    QPoint emptySpace() const;
+
+    QWidget *m_window = nullptr;
+    QDragDropListWidget *m_list = nullptr;
+    RecordingListInterface m_interface;
+    QStringList m_files;
+};
+
+void tst_QDragDropListWidget::init()
+{
+    m_window = new QWidget;
+    m_window->resize(240, 300);
+    m_list = new QDragDropListWidget(m_window);
+    m_list->setGeometry(0, 0, 240, 300);
+    m_list->setAcceptDrops(true);
+    m_list->addItems(
+        { QStringLiteral("Walk.fbx"), QStringLiteral("Run.fbx"), QStringLiteral("Idle.fbx") });
+    m_list->item(0)->setData(Qt::UserRole, 0);
+    m_list->item(1)->setData(Qt::UserRole, 7);
+    m_list->item(2)->setData(Qt::UserRole, -1);
+    m_interface = RecordingListInterface();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    m_files = QStringList { QStringLiteral("/tmp/assets/a.png"), QStringLiteral("/tmp/b.fbx"),
+                            QStringLiteral("/tmp/c d.obj") };
+}
+
+void tst_QDragDropListWidget::cleanup()
+{
+    delete m_window;
+    m_window = nullptr;
+    m_list = nullptr;
+}
+
+QPoint tst_QDragDropListWidget::itemCenter(int row) const
+{
+    return m_list->visualItemRect(m_list->item(row)).center();
+}
+
+QPoint tst_QDragDropListWidget::emptySpace() const
+{
+    return QPoint(20, m_list->viewport()->height() - 5);
+}
+
+void tst_QDragDropListWidget::noParentRefusesEveryDrag()
+{
+    QDragDropListWidget list;
+    list.setAcceptDrops(true);
+    list.addItem(QStringLiteral("Walk.fbx"));
+    list.resize(200, 200);
+    list.SetInterface(&m_interface);
+    list.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&list));
+
+    const auto mimeData = VelaDropTest::fileDrag(m_files);
+    QVERIFY(!VelaDropTest::dragEnter(list.viewport(), list.visualItemRect(list.item(0)).center(),
+                                     mimeData.get()));
+    QVERIFY(!VelaDropTest::dragEnter(list.viewport(), QPoint(10, 190), mimeData.get()));
+    QVERIFY(m_interface.calls.isEmpty());
+}
+
+void tst_QDragDropListWidget::noInterfaceAcceptsNothing()
+{
+    VelaDropTest::expectWindowRaised(6);
+    const auto mimeData = VelaDropTest::fileDrag(m_files);
+    QVERIFY(!VelaDropTest::dragEnter(m_list->viewport(), itemCenter(0), mimeData.get()));
+    QVERIFY(!VelaDropTest::dragEnter(m_list->viewport(), emptySpace(), mimeData.get()));
+
+    // An interface withdrawn during the drag: the drop is ignored, on an item and on empty space.
+    for (const QPoint &pos : { itemCenter(0), emptySpace() }) {
+        m_list->SetInterface(&m_interface);
+        VelaDropTest::DragSession drag(m_list->viewport(), pos, mimeData.get());
+        QVERIFY(drag.entered());
+        m_list->SetInterface(nullptr);
+        QVERIFY(!drag.drop(pos));
+    }
+    QCOMPARE(m_interface.calls,
+             QStringList({ QStringLiteral("CanDragEnter"), QStringLiteral("CanDragEnter") }));
+    QCOMPARE(m_list->count(), 3);
+}
+
+void tst_QDragDropListWidget::dragEnterAsksInterface_data()
+{
+    QTest::addColumn<int>("fileCount");
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("one file, accepted") << 1 << true;
+    QTest::newRow("three files, accepted") << 3 << true;
+    QTest::newRow("three files, refused") << 3 << false;
+}
+
+void tst_QDragDropListWidget::dragEnterAsksInterface()
+{
+    VelaDropTest::expectWindowRaised(1);
+    QFETCH(int, fileCount);
+    QFETCH(bool, answer);
+    m_list->SetInterface(&m_interface);
+    m_interface.enterAnswer = answer;
+
+    const QStringList files = m_files.mid(0, fileCount);
+    const auto mimeData = VelaDropTest::fileDrag(files);
+    QCOMPARE(VelaDropTest::dragEnter(m_list->viewport(), itemCenter(1), mimeData.get()), answer);
+    QCOMPARE(m_interface.calls, QStringList { QStringLiteral("CanDragEnter") });
+    QCOMPARE(QStringList(m_interface.files.first()), files);
+}
+
+void tst_QDragDropListWidget::dragWithoutLinksIsRefused()
+{
+    m_list->SetInterface(&m_interface);
+    const auto mimeData = VelaDropTest::textDrag(QStringLiteral("/tmp/a.png"));
+    QVERIFY(!VelaDropTest::dragEnter(m_list->viewport(), itemCenter(0), mimeData.get()));
+    QVERIFY(m_interface.calls.isEmpty());
+}
+
+void tst_QDragDropListWidget::dropOnEmptySpaceOffersAllFiles_data()
+{
+    QTest::addColumn<int>("fileCount");
+    QTest::newRow("one file") << 1;
+    QTest::newRow("three files") << 3;
+}
+
+void tst_QDragDropListWidget::dropOnEmptySpaceOffersAllFiles()
+{
+    VelaDropTest::expectWindowRaised(2);
+    QFETCH(int, fileCount);
+    m_list->SetInterface(&m_interface);
+    const QStringList files = m_files.mid(0, fileCount);
+    const auto mimeData = VelaDropTest::fileDrag(files);
+
+    QVERIFY(VelaDropTest::dropAt(m_list->viewport(), emptySpace(), mimeData.get()));
+    QCOMPARE(m_interface.calls,
+             QStringList({ QStringLiteral("CanDragEnter"), QStringLiteral("CanDropFileList") }));
+    QCOMPARE(QStringList(m_interface.files.at(1)), files);
+    // The list adds nothing itself: that is the host's business.
+    QCOMPARE(m_list->count(), 3);
+}
+
+void tst_QDragDropListWidget::dropOnItemOffersFirstFile_data()
+{
+    QTest::addColumn<int>("fileCount");
+    QTest::newRow("one file") << 1;
+    QTest::newRow("three files") << 3;
+}
+
+void tst_QDragDropListWidget::dropOnItemOffersFirstFile()
+{
+    VelaDropTest::expectWindowRaised(2);
+    QFETCH(int, fileCount);
+    m_list->SetInterface(&m_interface);
+    const auto mimeData = VelaDropTest::fileDrag(m_files.mid(0, fileCount));
+
+    QVERIFY(VelaDropTest::dropAt(m_list->viewport(), itemCenter(1), mimeData.get()));
+    QCOMPARE(m_interface.calls,
+             QStringList({ QStringLiteral("CanDragEnter"), QStringLiteral("CanDropFile") }));
+    QCOMPARE(QStringList(m_interface.files.at(1)), QStringList { m_files.first() });
+    QCOMPARE(m_interface.item, m_list->item(1));
+}
+
+void tst_QDragDropListWidget::refusedDropIsIgnored()
+{
+    VelaDropTest::expectWindowRaised(4);
+    m_list->SetInterface(&m_interface);
+    m_interface.dropAnswer = false;
+    const auto mimeData = VelaDropTest::fileDrag(m_files);
+    QVERIFY(!VelaDropTest::dropAt(m_list->viewport(), itemCenter(0), mimeData.get()));
+    QVERIFY(!VelaDropTest::dropAt(m_list->viewport(), emptySpace(), mimeData.get()));
+    QCOMPARE(m_interface.calls,
+             QStringList({ QStringLiteral("CanDragEnter"), QStringLiteral("CanDropFile"),
+                           QStringLiteral("CanDragEnter"), QStringLiteral("CanDropFileList") }));
+}
+
+void tst_QDragDropListWidget::dragMoveMarksTarget()
+{
+    VelaDropTest::expectWindowRaised(2);
+    m_list->SetInterface(&m_interface);
+    const auto mimeData = VelaDropTest::fileDrag(m_files.mid(0, 1));
+    VelaDropTest::DragSession drag(m_list->viewport(), emptySpace(), mimeData.get());
+
+    QVERIFY(drag.move(itemCenter(1)));
+    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), true);
+    QCOMPARE(m_list->item(0)->data(kDropTargetRole).toBool(), false);
+
+    QVERIFY(drag.move(itemCenter(0)));
+    QCOMPARE(m_list->item(0)->data(kDropTargetRole).toBool(), true);
+    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), false);
+
+    // Empty space takes drops too, and no item stays marked.
+    QVERIFY(drag.move(emptySpace()));
+    for (int row = 0; row < m_list->count(); ++row)
+        QCOMPARE(m_list->item(row)->data(kDropTargetRole).toBool(), false);
+
+    // The mark of the last move stays after the drop.
+    QVERIFY(drag.move(itemCenter(1)));
+    QVERIFY(drag.drop(itemCenter(1)));
+    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), true);
+}
+
+void tst_QDragDropListWidget::dragMoveRefusesNegativeItems()
+{
+    VelaDropTest::expectWindowRaised(1);
+    m_list->SetInterface(&m_interface);
+    const auto mimeData = VelaDropTest::fileDrag(m_files.mid(0, 1));
+    VelaDropTest::DragSession drag(m_list->viewport(), emptySpace(), mimeData.get());
+    QVERIFY(drag.move(itemCenter(1)));
+    QVERIFY(!drag.move(itemCenter(2)));
+    QCOMPARE(m_list->item(2)->data(kDropTargetRole).toBool(), false);
+    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), false);
+    QVERIFY(drag.move(itemCenter(0)));
+}
+
+void tst_QDragDropListWidget::rightPressKeepsSelection()
+{
+    m_list->SetInterface(&m_interface);
+    m_list->setCurrentRow(0);
+    QTest::mousePress(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(2));
+    QCOMPARE(m_list->currentRow(), 0);
+    QCOMPARE(m_list->selectedItems(), QList<QListWidgetItem *> { m_list->item(0) });
+    QTest::mouseRelease(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(2));
+    QCOMPARE(m_list->currentRow(), 0);
+    QCOMPARE(m_list->selectedItems(), QList<QListWidgetItem *> { m_list->item(0) });
+}
+
+void tst_QDragDropListWidget::leftPressSelects()
+{
+    m_list->setCurrentRow(0);
+    QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, itemCenter(2));
+    QCOMPARE(m_list->currentRow(), 2);
+}
+
+void tst_QDragDropListWidget::rightReleaseCallsInterface()
+{
+    m_list->SetInterface(&m_interface);
+    QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, itemCenter(1));
+    QVERIFY(m_interface.calls.isEmpty());
+    QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(1));
+    QCOMPARE(m_interface.calls, QStringList { QStringLiteral("MouseRButtonRelease") });
+}
+
+void tst_QDragDropListWidget::rightReleaseWithoutInterface()
+{
+    m_list->setCurrentRow(1);
+    QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(0));
+    QCOMPARE(m_list->currentRow(), 1);
+}
+
+VELA_TEST_CLASS(tst_QDragDropListWidget)
+#include "tst_QDragDropListWidget.moc"

@@ -1,0 +1,343 @@
+#include "QItemLabel.h"
+#include "VelaDropTest.h"
+#include "VelaTest.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QColor kPicture(40, 90, 160);
+
+QPixmap solidPixmap(const QSize &size, const QColor &color)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+QColor pixelAt(QWidget &widget, int x, int y)
+{
+    return widget.grab().toImage().pixelColor(x, y);
+}
+
+} // namespace
+
+class tst_QItemLabel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void defaults();
+    void clickSelectsOnce();
+    void anyButtonSelects();
+    void setSelectedSignalsChangesOnly();
+    void selectedFrameGeometry();
+    void thickFrameGeometry();
+    void hoverFrameAndSelectionWins();
+    void noFrameWithoutPixmapOrWhenDisabled();
+    void doubleClickLoadsChosenImage();
+    void doubleClickUsesThumbnailFunctor();
+    void doubleClickWithoutPath();
+    void rightDoubleClick();
+    void dragEnterFilter_data();
+    void dragEnterFilter();
+    void dropLoadsImage();
+    void dropOfUnreadableFileKeepsPicture();
+
+private:
+    QItemLabel *m_label = nullptr;
+    QTemporaryDir m_dir;
+    QStringList m_events;
+};
+
+void tst_QItemLabel::init()
+{
+    QVERIFY(m_dir.isValid());
+    m_label = new QItemLabel;
+    m_label->setScaledContents(true);
+    m_label->setAcceptDrops(true);
+    m_label->resize(100, 80);
+    m_label->setPixmap(solidPixmap(QSize(100, 80), kPicture));
+    m_events.clear();
+    connect(m_label, &QItemLabel::SelectedChanged, this,
+            [this] { m_events << QStringLiteral("SelectedChanged"); });
+    connect(m_label, &QItemLabel::clicked, this, [this] { m_events << QStringLiteral("clicked"); });
+    connect(m_label, &QItemLabel::PreImageLoaded, this,
+            [this](const QString &path) { m_events << QStringLiteral("PreImageLoaded ") + path; });
+    m_label->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_label));
+}
+
+void tst_QItemLabel::cleanup()
+{
+    delete m_label;
+    m_label = nullptr;
+}
+
+void tst_QItemLabel::defaults()
+{
+    QItemLabel label;
+    QCOMPARE(label.GetSelected(), false);
+    QCOMPARE(label.property("FrameLineWidth").toDouble(), 0.0);
+    QCOMPARE(label.property("SelectedOuterColor").value<QColor>(), QColor(18, 18, 18));
+    QCOMPARE(label.property("SelectedMiddleColor").value<QColor>(), QColor(80, 80, 80));
+    QCOMPARE(label.property("SelectedInnerColor").value<QColor>(), QColor(230, 230, 230));
+    QCOMPARE(label.property("HoverOuterColor").value<QColor>(), QColor(85, 85, 255));
+    QCOMPARE(label.property("HoverMiddleColor").value<QColor>(), QColor(170, 170, 255));
+    QCOMPARE(label.property("HoverInnerColor").value<QColor>(), QColor(85, 255, 127));
+    QCOMPARE(label.property("DragFilter").toString(), QString());
+
+    QVERIFY(label.setProperty("DragFilter", QStringLiteral("png tga")));
+    QCOMPARE(label.GetFileFilter(), QStringLiteral("png tga"));
+    QVERIFY(label.setProperty("HoverInnerColor", QColor(Qt::red)));
+    QCOMPARE(label.GetHoverInnerLineColor(), QColor(Qt::red));
+}
+
+void tst_QItemLabel::clickSelectsOnce()
+{
+    QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(m_label->GetSelected(), true);
+    QCOMPARE(m_events,
+             QStringList({ QStringLiteral("SelectedChanged"), QStringLiteral("clicked") }));
+
+    m_events.clear();
+    QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(m_label->GetSelected(), true);
+    QCOMPARE(m_events, QStringList { QStringLiteral("clicked") });
+}
+
+void tst_QItemLabel::anyButtonSelects()
+{
+    QTest::mousePress(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
+    QCOMPARE(m_label->GetSelected(), true);
+    QTest::mouseRelease(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(10, 10));
+    QCOMPARE(m_events,
+             QStringList({ QStringLiteral("SelectedChanged"), QStringLiteral("clicked"),
+                           QStringLiteral("clicked") }));
+}
+
+void tst_QItemLabel::setSelectedSignalsChangesOnly()
+{
+    m_label->SetSelected(false);
+    QVERIFY(m_events.isEmpty());
+    m_label->SetSelected(true);
+    m_label->SetSelected(true);
+    m_label->SetSelected(false);
+    QCOMPARE(m_events,
+             QStringList({ QStringLiteral("SelectedChanged"), QStringLiteral("SelectedChanged") }));
+    // A press never deselects, but the host may.
+    QCOMPARE(m_label->GetSelected(), false);
+}
+
+void tst_QItemLabel::selectedFrameGeometry()
+{
+    const QColor middle = m_label->GetSelectMiddleLineColor();
+    const QColor inner = m_label->GetSelectInnerLineColor();
+    m_label->SetSelected(true);
+    const QImage image = m_label->grab().toImage();
+
+    // Width 0: outer and middle both trace (0, 0, 99, 79), the middle drawn last.
+    QCOMPARE(image.pixelColor(0, 0), middle);
+    QCOMPARE(image.pixelColor(99, 79), middle);
+    QCOMPARE(image.pixelColor(50, 0), middle);
+    QCOMPARE(image.pixelColor(0, 40), middle);
+    QCOMPARE(image.pixelColor(1, 1), kPicture);
+    // The inner line traces (2, 2, 95, 75).
+    QCOMPARE(image.pixelColor(2, 2), inner);
+    QCOMPARE(image.pixelColor(97, 77), inner);
+    QCOMPARE(image.pixelColor(50, 2), inner);
+    QCOMPARE(image.pixelColor(97, 40), inner);
+    QCOMPARE(image.pixelColor(3, 3), kPicture);
+    QCOMPARE(image.pixelColor(98, 78), kPicture);
+    QCOMPARE(image.pixelColor(50, 40), kPicture);
+}
+
+void tst_QItemLabel::thickFrameGeometry()
+{
+    m_label->SetLineWidth(2.0);
+    m_label->SetSelectOuterLineColor(Qt::red);
+    m_label->SetSelectMiddleLineColor(Qt::green);
+    m_label->SetSelectInnerLineColor(Qt::yellow);
+    m_label->SetSelected(true);
+    const QImage image = m_label->grab().toImage();
+
+    QCOMPARE(image.pixelColor(0, 40), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(2, 40), QColor(Qt::green)); // (2, 2, 95, 75)
+    QCOMPARE(image.pixelColor(97, 77), QColor(Qt::green));
+    QCOMPARE(image.pixelColor(4, 40), QColor(Qt::yellow)); // (4, 4, 91, 71)
+    QCOMPARE(image.pixelColor(95, 75), QColor(Qt::yellow));
+    QCOMPARE(image.pixelColor(5, 40), kPicture);
+}
+
+void tst_QItemLabel::hoverFrameAndSelectionWins()
+{
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(m_label, &enter);
+    QCOMPARE(pixelAt(*m_label, 2, 2), m_label->GetHoverInnerLineColor());
+    QCOMPARE(pixelAt(*m_label, 0, 0), m_label->GetHoverMiddleLineColor());
+
+    m_label->SetSelected(true);
+    QCOMPARE(pixelAt(*m_label, 2, 2), m_label->GetSelectInnerLineColor());
+
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(m_label, &leave);
+    m_label->SetSelected(false);
+    QCOMPARE(pixelAt(*m_label, 2, 2), kPicture);
+    QCOMPARE(pixelAt(*m_label, 0, 0), kPicture);
+}
+
+void tst_QItemLabel::noFrameWithoutPixmapOrWhenDisabled()
+{
+    m_label->SetSelected(true);
+    m_label->setEnabled(false);
+    // A disabled label shows its picture greyed out, without a frame.
+    const QImage disabled = m_label->grab().toImage();
+    QCOMPARE(disabled.pixelColor(2, 2), disabled.pixelColor(50, 40));
+    QCOMPARE(disabled.pixelColor(0, 0), disabled.pixelColor(50, 40));
+
+    m_label->setEnabled(true);
+    m_label->setPixmap(QPixmap());
+    const QColor background = m_label->palette().color(QPalette::Window);
+    QCOMPARE(pixelAt(*m_label, 2, 2), background);
+    QCOMPARE(pixelAt(*m_label, 0, 0), background);
+}
+
+void tst_QItemLabel::doubleClickLoadsChosenImage()
+{
+    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
+                                                  QSize(100, 80), Qt::darkGreen);
+    int asked = 0;
+    m_label->SetGetOpenFileNameFunctor([&] {
+        ++asked;
+        return path;
+    });
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(asked, 1);
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10),
+             QColor(Qt::darkGreen));
+    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + path);
+    QVERIFY(!QApplication::overrideCursor());
+
+    // A path that cannot be read still replaces the picture, with an empty one.
+    const QString missing = m_dir.filePath(QStringLiteral("missing.png"));
+    m_label->SetGetOpenFileNameFunctor([&] { return missing; });
+    m_label->OnMouseDoubleClicked();
+    QVERIFY(m_label->pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + missing);
+}
+
+void tst_QItemLabel::doubleClickUsesThumbnailFunctor()
+{
+    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
+                                                  QSize(100, 80), Qt::darkGreen);
+    QStringList thumbnailsFor;
+    m_label->SetGetOpenFileNameFunctor([&] { return path; });
+    m_label->SetSpecialThumbnailFunctor([&](const QString &file) {
+        thumbnailsFor << file;
+        return solidPixmap(QSize(20, 20), Qt::magenta);
+    });
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(thumbnailsFor, QStringList { path });
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(20, 20));
+    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + path);
+}
+
+void tst_QItemLabel::doubleClickWithoutPath()
+{
+    // No functor, then a cancelled dialog: nothing is loaded.
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    m_label->SetGetOpenFileNameFunctor([] { return QString(); });
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
+    QVERIFY(!m_events.join(QLatin1Char(' ')).contains(QLatin1String("PreImageLoaded")));
+}
+
+void tst_QItemLabel::rightDoubleClick()
+{
+    QList<Qt::MouseButton> buttons;
+    connect(m_label, &QItemLabel::RightDoubleClicked, this,
+            [&](QMouseEvent *event) { buttons << event->button(); });
+    int asked = 0;
+    m_label->SetGetOpenFileNameFunctor([&] {
+        ++asked;
+        return QString();
+    });
+    QTest::mouseDClick(m_label, Qt::RightButton, Qt::NoModifier, QPoint(50, 40));
+    QTest::mouseDClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(buttons, QList<Qt::MouseButton> { Qt::RightButton });
+    QCOMPARE(asked, 0);
+}
+
+void tst_QItemLabel::dragEnterFilter_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<bool>("accepted");
+
+    const QString filter = QStringLiteral("Images (*.png *.jpg *.tga)");
+    QTest::newRow("listed suffix") << filter << QStringList { "/tmp/a.png" } << true;
+    QTest::newRow("suffix in capitals") << filter << QStringList { "/tmp/A.PNG" } << true;
+    QTest::newRow("unlisted suffix") << filter << QStringList { "/tmp/a.bmp" } << false;
+    QTest::newRow("no suffix") << filter << QStringList { "/tmp/readme" } << true;
+    QTest::newRow("part of a listed suffix") << filter << QStringList { "/tmp/a.pn" } << true;
+    QTest::newRow("two files") << filter << QStringList { "/tmp/a.png", "/tmp/b.png" } << false;
+    QTest::newRow("empty filter") << QString() << QStringList { "/tmp/a.bmp" } << true;
+    QTest::newRow("empty filter, two files")
+        << QString() << QStringList { "/tmp/a.png", "/tmp/b.png" } << false;
+}
+
+void tst_QItemLabel::dragEnterFilter()
+{
+    QFETCH(QString, filter);
+    QFETCH(QStringList, files);
+    QFETCH(bool, accepted);
+    m_label->SetFileFilter(filter);
+    const auto mimeData = VelaDropTest::fileDrag(files);
+    QCOMPARE(VelaDropTest::dragEnter(m_label, QPoint(50, 40), mimeData.get()), accepted);
+
+    const auto text = VelaDropTest::textDrag(files.first());
+    QVERIFY(!VelaDropTest::dragEnter(m_label, QPoint(50, 40), text.get()));
+}
+
+void tst_QItemLabel::dropLoadsImage()
+{
+    // The thumbnail functor is for the file dialog only.
+    bool thumbnailAsked = false;
+    m_label->SetSpecialThumbnailFunctor([&](const QString &) {
+        thumbnailAsked = true;
+        return QPixmap();
+    });
+    m_label->SetFileFilter(QStringLiteral("png"));
+    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("bark.png"),
+                                                  QSize(64, 64), Qt::darkRed);
+    const auto mimeData = VelaDropTest::fileDrag({ path });
+    QVERIFY(VelaDropTest::dropAt(m_label, QPoint(50, 40), mimeData.get()));
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(64, 64));
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5), QColor(Qt::darkRed));
+    QCOMPARE(m_events, QStringList { QStringLiteral("PreImageLoaded ") + path });
+    QVERIFY(!thumbnailAsked);
+    QVERIFY(!QApplication::overrideCursor());
+}
+
+void tst_QItemLabel::dropOfUnreadableFileKeepsPicture()
+{
+    const QString path = m_dir.filePath(QStringLiteral("broken.png"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("not a picture");
+    file.close();
+
+    const auto mimeData = VelaDropTest::fileDrag({ path });
+    VelaDropTest::dropAt(m_label, QPoint(50, 40), mimeData.get());
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
+    QCOMPARE(m_events, QStringList { QStringLiteral("PreImageLoaded ") + path });
+}
+
+VELA_TEST_CLASS(tst_QItemLabel)
+#include "tst_QItemLabel.moc"

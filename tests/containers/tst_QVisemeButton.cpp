@@ -1,0 +1,142 @@
+#include "QVisemeButton.h"
+#include "QVisemeCurveWidgetLite.h"
+#include "VelaTest.h"
+
+#include <QDrag>
+#include <QMimeData>
+#include <QToolButton>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+void moveMouse(QWidget *widget, QPoint pos, Qt::MouseButtons buttons = Qt::LeftButton)
+{
+    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+}
+
+// Enters target with data and drops it at pos, as a drag does; returns whether it was taken.
+bool dropOn(QWidget *target, const QMimeData *data, QPoint pos)
+{
+    QDragEnterEvent enter(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDropEvent drop(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    return enter.isAccepted() && drop.isAccepted();
+}
+
+} // namespace
+
+class tst_QVisemeButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void dragStartsAtTheStartDistance_data();
+    void dragStartsAtTheStartDistance();
+    void payload();
+    void onlyLeftPressesSetTheStart();
+    void payloadFreesCurveSlot();
+
+private:
+    QList<QDrag *> drags() const { return m_button->findChildren<QDrag *>(); }
+
+    std::unique_ptr<QVisemeButton> m_button;
+};
+
+void tst_QVisemeButton::init()
+{
+    m_button.reset(new QVisemeButton);
+    m_button->setText(QStringLiteral("Clear"));
+    m_button->resize(80, 80);
+    m_button->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_button.get()));
+}
+
+void tst_QVisemeButton::cleanup()
+{
+    m_button.reset();
+}
+
+void tst_QVisemeButton::dragStartsAtTheStartDistance_data()
+{
+    const int distance = QApplication::startDragDistance();
+    QTest::addColumn<QPoint>("offset");
+    QTest::addColumn<bool>("starts");
+    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
+    QTest::newRow("one pixel short, diagonal")
+        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
+    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
+    QTest::newRow("exactly the distance, diagonal")
+        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
+}
+
+void tst_QVisemeButton::dragStartsAtTheStartDistance()
+{
+    QFETCH(QPoint, offset);
+    QFETCH(bool, starts);
+    const QPoint start(40, 40);
+    QTest::mousePress(m_button.get(), Qt::LeftButton, Qt::NoModifier, start);
+    QVERIFY(m_button->isDown());
+    moveMouse(m_button.get(), start + offset);
+    QCOMPARE(drags().size(), starts ? 1 : 0);
+    QTest::mouseRelease(m_button.get(), Qt::LeftButton, Qt::NoModifier, start + offset);
+}
+
+void tst_QVisemeButton::payload()
+{
+    QTest::mousePress(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    moveMouse(m_button.get(), QPoint(70, 70));
+    QCOMPARE(drags().size(), 1);
+    const QDrag *drag = drags().first();
+    QCOMPARE(drag->source(), m_button.get());
+    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
+    const QMimeData *data = drag->mimeData();
+    QCOMPARE(data->formats(), QStringList(QStringLiteral("application/x-visemebutton")));
+    QVERIFY(data->data(QStringLiteral("application/x-visemebutton")).isEmpty());
+    QVERIFY(!data->hasText());
+    QTest::mouseRelease(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(70, 70));
+}
+
+void tst_QVisemeButton::onlyLeftPressesSetTheStart()
+{
+    const int distance = QApplication::startDragDistance();
+    QTest::mouseClick(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    QTest::mouseClick(m_button.get(), Qt::RightButton, Qt::NoModifier, QPoint(5 + distance, 5));
+    moveMouse(m_button.get(), QPoint(5 + distance, 5));
+    QCOMPARE(drags().size(), 1);
+    moveMouse(m_button.get(), QPoint(70, 70), Qt::MiddleButton);
+    QCOMPARE(drags().size(), 1);
+}
+
+void tst_QVisemeButton::payloadFreesCurveSlot()
+{
+    // Dropped on the viseme curves outside their buttons, the drag frees the current slot.
+    QWidget host;
+    auto *curve = new QVisemeCurveWidgetLite(&host);
+    curve->setGeometry(0, 0, 300, 200);
+    auto *slotButton = new QToolButton(curve);
+    slotButton->setGeometry(240, 10, 50, 20);
+    slotButton->setText(QStringLiteral("AA"));
+    curve->Init();
+    curve->AddVisemeData(0, QStringLiteral("AA"));
+    curve->AddVisemeCurveEndPoints();
+
+    QTest::mousePress(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    moveMouse(m_button.get(), QPoint(60, 60));
+    QCOMPARE(drags().size(), 1);
+    QVERIFY(dropOn(curve, drags().first()->mimeData(), QPoint(100, 100)));
+    QVERIFY(slotButton->text().isEmpty());
+    QVERIFY(curve->GetVisemeName(0).isEmpty());
+    QVERIFY(!curve->GetVisemeUIData()[0].m_bInUse);
+    QVERIFY(curve->GetVisemeUIData()[0].m_lstKeys.isEmpty());
+    QTest::mouseRelease(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 60));
+}
+
+VELA_TEST_CLASS(tst_QVisemeButton)
+#include "tst_QVisemeButton.moc"

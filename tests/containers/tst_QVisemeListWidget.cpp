@@ -1,0 +1,162 @@
+#include "QVisemeCurveWidgetLite.h"
+#include "QVisemeListWidget.h"
+#include "VelaTest.h"
+
+#include <QDrag>
+#include <QMimeData>
+#include <QToolButton>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+void moveMouse(QWidget *widget, QPoint pos, Qt::MouseButtons buttons = Qt::LeftButton)
+{
+    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+}
+
+// Enters target with data and drops it at pos, as a drag does; returns whether it was taken.
+bool dropOn(QWidget *target, const QMimeData *data, QPoint pos)
+{
+    QDragEnterEvent enter(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QDropEvent drop(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    return enter.isAccepted() && drop.isAccepted();
+}
+
+} // namespace
+
+class tst_QVisemeListWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void dragStartsAtTheStartDistance_data();
+    void dragStartsAtTheStartDistance();
+    void payload();
+    void onlyLeftPressesSetTheStart();
+    void noCurrentItemNoDrag();
+    void payloadDropsOnVisemeCurve();
+
+private:
+    // The drags the list has started; each is deleted once the event loop runs again.
+    QList<QDrag *> drags() const { return m_list->findChildren<QDrag *>(); }
+    QPoint itemCenter(int row) const { return m_list->visualItemRect(m_list->item(row)).center(); }
+
+    std::unique_ptr<QVisemeListWidget> m_list;
+};
+
+void tst_QVisemeListWidget::init()
+{
+    m_list.reset(new QVisemeListWidget);
+    m_list->resize(160, 300);
+    m_list->addItems({ QStringLiteral("AA"), QStringLiteral("EE"), QStringLiteral("OH") });
+    m_list->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_list.get()));
+}
+
+void tst_QVisemeListWidget::cleanup()
+{
+    m_list.reset();
+}
+
+void tst_QVisemeListWidget::dragStartsAtTheStartDistance_data()
+{
+    const int distance = QApplication::startDragDistance();
+    QTest::addColumn<QPoint>("offset");
+    QTest::addColumn<bool>("starts");
+    QTest::newRow("one pixel short") << QPoint(distance - 1, 0) << false;
+    QTest::newRow("one pixel short, diagonal")
+        << QPoint(distance / 2, -(distance - 1 - distance / 2)) << false;
+    QTest::newRow("exactly the distance") << QPoint(0, distance) << true;
+    QTest::newRow("exactly the distance, diagonal")
+        << QPoint(-(distance / 2), distance - distance / 2) << true;
+}
+
+void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
+{
+    QFETCH(QPoint, offset);
+    QFETCH(bool, starts);
+    const QPoint start = itemCenter(1);
+    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    moveMouse(m_list->viewport(), start + offset);
+    QCOMPARE(drags().size(), starts ? 1 : 0);
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + offset);
+}
+
+void tst_QVisemeListWidget::payload()
+{
+    const QPoint start = itemCenter(2);
+    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    moveMouse(m_list->viewport(), start + QPoint(0, 40));
+    QCOMPARE(drags().size(), 1);
+    const QDrag *drag = drags().first();
+    QCOMPARE(drag->source(), m_list.get());
+    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
+    const QMimeData *data = drag->mimeData();
+    QVERIFY(data->hasFormat(QStringLiteral("application/x-visemelistitem")));
+    QVERIFY(data->data(QStringLiteral("application/x-visemelistitem")).isEmpty());
+    QCOMPARE(data->text(), QStringLiteral("OH"));
+    QCOMPARE(data->formats(),
+             QStringList(
+                 { QStringLiteral("application/x-visemelistitem"), QStringLiteral("text/plain") }));
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
+}
+
+void tst_QVisemeListWidget::onlyLeftPressesSetTheStart()
+{
+    const int distance = QApplication::startDragDistance();
+    const QPoint start = itemCenter(0);
+    QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    // A right press far away leaves the start where the left press put it.
+    const QPoint far = start + QPoint(0, distance);
+    QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, far);
+    moveMouse(m_list->viewport(), far);
+    QCOMPARE(drags().size(), 1);
+    // Moving without the left button starts nothing.
+    moveMouse(m_list->viewport(), far + QPoint(0, 30), Qt::RightButton);
+    QCOMPARE(drags().size(), 1);
+}
+
+void tst_QVisemeListWidget::noCurrentItemNoDrag()
+{
+    m_list->setCurrentItem(nullptr);
+    QVERIFY(!m_list->currentItem());
+    // Below the last item: the press makes no item current.
+    const QPoint empty(20, m_list->viewport()->height() - 10);
+    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+    QVERIFY(!m_list->currentItem());
+    moveMouse(m_list->viewport(), empty - QPoint(0, 40));
+    QVERIFY(drags().isEmpty());
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+}
+
+void tst_QVisemeListWidget::payloadDropsOnVisemeCurve()
+{
+    // What the list sends is what the viseme curve widget takes: the name lands on the button.
+    QWidget host;
+    auto *curve = new QVisemeCurveWidgetLite(&host);
+    curve->setGeometry(0, 0, 300, 200);
+    auto *button = new QToolButton(curve);
+    button->setCheckable(true);
+    button->setGeometry(240, 10, 50, 20);
+    curve->Init();
+
+    const QPoint start = itemCenter(1);
+    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    moveMouse(m_list->viewport(), start + QPoint(30, 0));
+    QCOMPARE(drags().size(), 1);
+    QVERIFY(dropOn(curve, drags().first()->mimeData(), button->geometry().center()));
+    QCOMPARE(button->text(), QStringLiteral("EE"));
+    QCOMPARE(curve->GetVisemeName(0), QStringLiteral("EE"));
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+}
+
+VELA_TEST_CLASS(tst_QVisemeListWidget)
+#include "tst_QVisemeListWidget.moc"

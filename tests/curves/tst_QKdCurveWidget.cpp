@@ -1,0 +1,122 @@
+#include "QKdCurveWidget.h"
+#include "VelaTest.h"
+
+#include <QtTest>
+
+using Points = std::vector<Vela::CVector3<float>>;
+
+namespace {
+
+bool isBlue(QRgb pixel)
+{
+    return qBlue(pixel) - qRed(pixel) > 60 && qBlue(pixel) - qGreen(pixel) > 60;
+}
+
+int bluePixels(const QImage &image, QRect area)
+{
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += isBlue(image.pixel(x, y));
+    return count;
+}
+
+// Counts its paints, to tell a repaint from a scheduled update.
+class CountingCurveWidget : public QKdCurveWidget
+{
+public:
+    using QKdCurveWidget::QKdCurveWidget;
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        ++paints;
+        QKdCurveWidget::paintEvent(event);
+    }
+};
+
+} // namespace
+
+class tst_QKdCurveWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void emptyDrawsNothing();
+    void usesNinetyPercent();
+    void yAxisPointsDown();
+    void singlePointDrawsNoLine();
+    void emptySequenceClears();
+    void repaintsAtOnce();
+
+private:
+    std::unique_ptr<QKdCurveWidget> m_widget;
+};
+
+void tst_QKdCurveWidget::init()
+{
+    m_widget.reset(new QKdCurveWidget);
+    m_widget->resize(200, 100);
+}
+
+void tst_QKdCurveWidget::emptyDrawsNothing()
+{
+    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
+}
+
+void tst_QKdCurveWidget::usesNinetyPercent()
+{
+    // (1, 1) lands at (0.9 W, 0.9 H) = (180, 90).
+    m_widget->SetCurveSeq({ { 0.5f, 0.5f, 0.0f }, { 1.0f, 1.0f, 7.0f } });
+    const QImage image = m_widget->grab().toImage();
+    QVERIFY(isBlue(image.pixel(140, 70)));
+    QVERIFY(bluePixels(image, QRect(176, 86, 3, 3)) > 0);
+    QCOMPARE(bluePixels(image, QRect(183, 0, 17, 100)), 0);
+    QCOMPARE(bluePixels(image, QRect(0, 93, 200, 7)), 0);
+    QCOMPARE(bluePixels(image, QRect(0, 0, 87, 100)), 0);
+}
+
+void tst_QKdCurveWidget::yAxisPointsDown()
+{
+    // y = 0.5 is 45 pixels below the top edge; the line stops at x = 0.9 W.
+    m_widget->SetCurveSeq({ { 0.0f, 0.5f, 0.0f }, { 1.0f, 0.5f, 0.0f } });
+    const QImage image = m_widget->grab().toImage();
+    QVERIFY(isBlue(image.pixel(100, 44)));
+    QVERIFY(isBlue(image.pixel(100, 45)));
+    QCOMPARE(bluePixels(image, QRect(0, 0, 200, 42)), 0);
+    QCOMPARE(bluePixels(image, QRect(0, 48, 200, 52)), 0);
+    QCOMPARE(bluePixels(image, QRect(182, 0, 18, 100)), 0);
+}
+
+void tst_QKdCurveWidget::singlePointDrawsNoLine()
+{
+    m_widget->SetCurveSeq({ { 0.5f, 0.5f, 0.0f } });
+    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
+}
+
+void tst_QKdCurveWidget::emptySequenceClears()
+{
+    m_widget->SetCurveSeq({ { 0.0f, 0.0f, 0.0f }, { 1.0f, 1.0f, 0.0f } });
+    QVERIFY(bluePixels(m_widget->grab().toImage(), m_widget->rect()) > 0);
+    m_widget->SetCurveSeq({});
+    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
+}
+
+void tst_QKdCurveWidget::repaintsAtOnce()
+{
+    CountingCurveWidget widget;
+    widget.resize(200, 100);
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QCoreApplication::processEvents();
+    const int before = widget.paints;
+    Points points = { { 0.0f, 0.0f, 0.0f }, { 0.5f, 1.0f, 0.0f }, { 1.0f, 0.2f, 0.0f } };
+    widget.SetCurveSeq(points);
+    // Painted before returning, without an event loop turn.
+    QCOMPARE(widget.paints, before + 1);
+}
+
+VELA_TEST_CLASS(tst_QKdCurveWidget)
+#include "tst_QKdCurveWidget.moc"

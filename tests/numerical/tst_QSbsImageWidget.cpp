@@ -1,0 +1,622 @@
+#include "QComboBoxEx.h"
+#include "QSbsImageWidget.h"
+#include "VelaImageLoader.h"
+#include "VelaTest.h"
+
+#include <QAbstractItemView>
+#include <QFile>
+#include <QLabel>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QVBoxLayout>
+#include <QtTest>
+
+static const unsigned int kUid = 4711;
+
+// Drags the files onto a widget and drops them there, routed as Qt routes them (below).
+static bool dragAndDrop(QWidget *w, const QStringList &files);
+
+static Vela::CMap<Vela::ESubstanceUiChannel, QString> channelNames()
+{
+    Vela::CMap<Vela::ESubstanceUiChannel, QString> names;
+    const char *const texts[] = { "Base Color", "Normal",   "Roughness", "Metallic", "Height", "AO",
+                                  "Opacity",    "Emissive", "Specular",  "Glossy",   "Diffuse" };
+    for (int i = 0; i < 11; ++i)
+        names[Vela::ESubstanceUiChannel(i)] = QString::fromLatin1(texts[i]);
+    names[Vela::SubstanceChannel_Custom] = QStringLiteral("Custom");
+    names[Vela::SubstanceChannel_None] = QStringLiteral("None");
+    return names;
+}
+
+// Records every signal of the widget in order, with its arguments.
+class SignalLog : public QObject
+{
+public:
+    explicit SignalLog(QSbsImageWidget *w)
+    {
+        connect(w, &QSbsImageWidget::OpenCustomImageFileDialog, this,
+                [this](uint32_t uid) { add(QStringLiteral("OpenDialog %1").arg(uid)); });
+        connect(w, &QSbsImageWidget::ImportImageFromChannel, this,
+                [this](uint32_t uid, Vela::ESubstanceUiChannel c) {
+                    add(QStringLiteral("Channel %1 %2").arg(uid).arg(int(c)));
+                });
+        connect(w, &QSbsImageWidget::ImportImageFromExtern, this,
+                [this](uint32_t uid, int n, const QString &name) {
+                    add(QStringLiteral("Extern %1 %2 %3").arg(uid).arg(n).arg(name));
+                });
+        connect(w, &QSbsImageWidget::RemoveImage, this,
+                [this](uint32_t uid) { add(QStringLiteral("Remove %1").arg(uid)); });
+        connect(w, &QSbsImageWidget::DropFileCustomImageFile, this,
+                [this](uint32_t uid, const QString &file) {
+                    add(QStringLiteral("Drop %1 %2").arg(uid).arg(QFileInfo(file).fileName()));
+                });
+        connect(w, &QSbsImageWidget::ChannelChanged, this,
+                [this]() { add(QStringLiteral("ChannelChanged")); });
+        connect(w, &QSbsImageWidget::OpenCustomImageMenu, this,
+                [this](uint32_t uid) { add(QStringLiteral("Menu %1").arg(uid)); });
+        connect(w, &QSbsImageWidget::MouseHoverEnterInImageLabel, this,
+                [this]() { add(QStringLiteral("Hover")); });
+    }
+    QStringList lines;
+
+private:
+    void add(const QString &line) { lines.append(line); }
+};
+
+class tst_QSbsImageWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void uninitialised();
+    void withoutChannelMap();
+    void entries();
+    void missingChannelNames();
+    void chooseExternTextureByKeyboard();
+    void chooseNoneAndChannel();
+    void activateCurrentCustomEntry();
+    void selectedChannel_data();
+    void selectedChannel();
+    void selectOutOfRange();
+    void previewMouse();
+    void previewDisabled();
+    void dragEnter_data();
+    void dragEnter();
+    void dropRules();
+    void dropOnDisabledWidget();
+    void droppedImagesThroughLoader();
+    void sbsarVisibleIf();
+    void accessors();
+    void signalSpyCarriesArguments();
+    void secondInitialize();
+
+private:
+    QString writeFile(const QString &name, const QByteArray &content);
+    QString writePng(const QString &name, const QColor &color);
+    QTemporaryDir m_dir;
+};
+
+void tst_QSbsImageWidget::initTestCase()
+{
+    QVERIFY(m_dir.isValid());
+}
+
+QString tst_QSbsImageWidget::writeFile(const QString &name, const QByteArray &content)
+{
+    const QString path = m_dir.filePath(name);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return QString();
+    file.write(content);
+    return path;
+}
+
+QString tst_QSbsImageWidget::writePng(const QString &name, const QColor &color)
+{
+    QImage image(16, 16, QImage::Format_ARGB32);
+    image.fill(color);
+    const QString path = m_dir.filePath(name);
+    return image.save(path, "PNG") ? path : QString();
+}
+
+static QComboBoxEx *comboOf(QSbsImageWidget &w)
+{
+    return w.findChild<QComboBoxEx *>();
+}
+
+static QPixmap previewPixmap(const QSbsImageWidget &w)
+{
+    return w.GetImageLabel()->pixmap(Qt::ReturnByValue);
+}
+
+static void initFull(QSbsImageWidget &w)
+{
+    w.Initialize(kUid, QStringLiteral("Base Color Input"), channelNames(),
+                 Vela::CArrayList<std::wstring> { L"Wood", L"Stone" }, true);
+}
+
+void tst_QSbsImageWidget::uninitialised()
+{
+    // Nothing is built before Initialize; every setter is safe and nothing is raised.
+    QSbsImageWidget w;
+    SignalLog log(&w);
+    w.SetSelectedChannel(3);
+    w.SetImage(QImage(4, 4, QImage::Format_RGB32));
+    w.SetImageTip(QStringLiteral("tip"));
+    w.SetLabelColor(QStringLiteral("color: red"));
+    w.OnUpdateWidgetSbsarVisibleif(0, false); // the uid defaults to 0
+    QVERIFY(!w.GetSbsarVisibleif());
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+    QVERIFY(!w.GetImageLabel());
+    QVERIFY(!w.GetNameLabel());
+    QVERIFY(!w.acceptDrops());
+    QVERIFY(log.lines.isEmpty());
+}
+
+void tst_QSbsImageWidget::withoutChannelMap()
+{
+    QSbsImageWidget w;
+    QCOMPARE(w.Initialize(kUid, QStringLiteral("Mask")).code(), 0u);
+    QVERIFY(!comboOf(w));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+    SignalLog log(&w);
+    w.SetSelectedChannel(3);
+    w.SetSelectedChannel(99998);
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+    QVERIFY(log.lines.isEmpty());
+    // Preview above the name, nothing else.
+    QCOMPARE(w.layout()->count(), 2);
+    QCOMPARE(w.layout()->itemAt(0)->widget(), w.GetImageLabel());
+    QCOMPARE(w.layout()->itemAt(1)->widget(), w.GetNameLabel());
+    QVERIFY(w.acceptDrops());
+}
+
+void tst_QSbsImageWidget::entries()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    QComboBoxEx *combo = comboOf(w);
+    QVERIFY(combo);
+    QCOMPARE(combo->count(), 15);
+    QList<int> data;
+    for (int i = 0; i < combo->count(); ++i)
+        data.append(combo->itemData(i).toInt());
+    QCOMPARE(data, (QList<int> { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 99998, 99999 }));
+    QCOMPARE(combo->itemText(0), QStringLiteral("Base Color"));
+    QCOMPARE(combo->itemText(10), QStringLiteral("Diffuse"));
+    QCOMPARE(combo->itemText(11), QStringLiteral("Wood"));
+    QCOMPARE(combo->itemText(12), QStringLiteral("Stone"));
+    QCOMPARE(combo->itemText(13), QStringLiteral("Custom"));
+    QCOMPARE(combo->itemText(14), QStringLiteral("None"));
+    QCOMPARE(combo->currentIndex(), 13);
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Custom);
+    QVERIFY(!combo->IgnoreWheelEvent());
+    QCOMPARE(combo->focusPolicy(), Qt::StrongFocus);
+    QCOMPARE(combo->width(), 102);
+    QCOMPARE(combo->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(combo->sizePolicy().controlType(), QSizePolicy::ComboBox);
+    // Preview, drop-down, name, in that order.
+    QCOMPARE(w.layout()->count(), 3);
+    QCOMPARE(w.layout()->itemAt(0)->widget(), w.GetImageLabel());
+    QCOMPARE(w.layout()->itemAt(1)->widget(), combo);
+    QCOMPARE(w.layout()->itemAt(2)->widget(), w.GetNameLabel());
+    QCOMPARE(w.layout()->itemAt(0)->alignment(), Qt::AlignHCenter);
+}
+
+void tst_QSbsImageWidget::missingChannelNames()
+{
+    QSbsImageWidget w;
+    Vela::CMap<Vela::ESubstanceUiChannel, QString> names;
+    names[Vela::SubstanceChannel_Normal] = QStringLiteral("Normal");
+    w.Initialize(kUid, QStringLiteral("Slot"), names, {}, false);
+    QComboBoxEx *combo = comboOf(w);
+    QVERIFY(combo);
+    QCOMPARE(combo->count(), 13);
+    QCOMPARE(combo->itemText(0), QString());
+    QCOMPARE(combo->itemText(1), QStringLiteral("Normal"));
+    QCOMPARE(combo->itemText(11), QString());
+    QCOMPARE(combo->itemData(11).toInt(), 99998);
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Custom);
+    // Initialised without drops: a dragged image file is not taken.
+    QVERIFY(!w.acceptDrops());
+    w.SetFileTypeFilter(QStringLiteral("png"));
+    const QString png = writePng(QStringLiteral("nodrop.png"), Qt::red);
+    SignalLog log(&w);
+    QVERIFY(!dragAndDrop(&w, { png }));
+    QVERIFY(log.lines.isEmpty());
+}
+
+void tst_QSbsImageWidget::chooseExternTextureByKeyboard()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowActive(&w));
+    QComboBoxEx *combo = comboOf(w);
+    combo->setFocus();
+    QTRY_VERIFY(combo->hasFocus());
+    SignalLog log(&w);
+    QTest::keyClick(combo, Qt::Key_Up); // custom -> Stone
+    QCOMPARE(combo->currentIndex(), 12);
+    QCOMPARE(
+        log.lines,
+        (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Extern 4711 1 Stone") }));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_ExternTexture);
+    log.lines.clear();
+    QTest::keyClick(combo, Qt::Key_Up); // Stone -> Wood
+    QCOMPARE(
+        log.lines,
+        (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Extern 4711 0 Wood") }));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_ExternTexture);
+    log.lines.clear();
+    // Back down to the custom entry: only the change of channel, then the dialog request from
+    // the activation.
+    QTest::keyClick(combo, Qt::Key_Down);
+    QTest::keyClick(combo, Qt::Key_Down);
+    QCOMPARE(combo->currentIndex(), 13);
+    QCOMPARE(log.lines.mid(2),
+             (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("OpenDialog 4711") }));
+}
+
+void tst_QSbsImageWidget::chooseNoneAndChannel()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    SignalLog log(&w);
+    w.SetSelectedChannel(99999);
+    QCOMPARE(log.lines,
+             (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Remove 4711") }));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+    log.lines.clear();
+    w.SetSelectedChannel(3);
+    QCOMPARE(log.lines,
+             (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Channel 4711 3") }));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Metallic);
+    log.lines.clear();
+    // Back to custom by a change of index: the channel change only.
+    w.SetSelectedChannel(99998);
+    QCOMPARE(log.lines, QStringList { QStringLiteral("ChannelChanged") });
+}
+
+void tst_QSbsImageWidget::activateCurrentCustomEntry()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowActive(&w));
+    QComboBoxEx *combo = comboOf(w);
+    SignalLog log(&w);
+    // Open the list and click the entry that is already current.
+    combo->showPopup();
+    QAbstractItemView *view = combo->view();
+    QTRY_VERIFY(view->isVisible());
+    const QRect rect = view->visualRect(view->model()->index(13, 0));
+    QVERIFY(rect.isValid());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rect.center());
+    QTRY_COMPARE(log.lines, QStringList { QStringLiteral("OpenDialog 4711") });
+    QCOMPARE(combo->currentIndex(), 13);
+}
+
+void tst_QSbsImageWidget::selectedChannel_data()
+{
+    QTest::addColumn<int>("channel");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("reported");
+    QTest::newRow("base color") << 0 << 0 << 0;
+    QTest::newRow("diffuse") << 10 << 10 << 10;
+    QTest::newRow("first extern by position") << 11 << 11 << 11;
+    QTest::newRow("second extern by position") << 12 << 12 << 11;
+    QTest::newRow("custom") << 99998 << 13 << 99998;
+    QTest::newRow("none") << 99999 << 14 << 99999;
+}
+
+void tst_QSbsImageWidget::selectedChannel()
+{
+    QFETCH(int, channel);
+    QFETCH(int, index);
+    QFETCH(int, reported);
+    QSbsImageWidget w;
+    initFull(w);
+    w.SetSelectedChannel(99999);
+    w.SetSelectedChannel(channel);
+    QCOMPARE(comboOf(w)->currentIndex(), index);
+    QCOMPARE(int(w.GetCurrentChannel()), reported);
+}
+
+void tst_QSbsImageWidget::selectOutOfRange()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.SetSelectedChannel(4);
+    SignalLog log(&w);
+    for (int c : { -1, -99999, 15, 500, 99997, 100000 })
+        w.SetSelectedChannel(c);
+    QVERIFY(log.lines.isEmpty());
+    QCOMPARE(comboOf(w)->currentIndex(), 4);
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Height);
+}
+
+void tst_QSbsImageWidget::previewMouse()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    QLabel *preview = w.GetImageLabel();
+    SignalLog log(&w);
+    QTest::mousePress(preview, Qt::RightButton);
+    QTest::mouseRelease(preview, Qt::RightButton);
+    QCOMPARE(log.lines, QStringList { QStringLiteral("Menu 4711") });
+    log.lines.clear();
+    QTest::mousePress(preview, Qt::MiddleButton);
+    QTest::mouseRelease(preview, Qt::MiddleButton);
+    QCOMPARE(log.lines, QStringList { QStringLiteral("Hover") });
+    log.lines.clear();
+    QTest::mouseDClick(preview, Qt::LeftButton);
+    QVERIFY(log.lines.contains(QStringLiteral("OpenDialog 4711")));
+    QCOMPARE(log.lines.count(QStringLiteral("OpenDialog 4711")), 1);
+    log.lines.clear();
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(preview, &enter);
+    QCOMPARE(log.lines, QStringList { QStringLiteral("Hover") });
+}
+
+void tst_QSbsImageWidget::previewDisabled()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    w.setEnabled(false);
+    QLabel *preview = w.GetImageLabel();
+    SignalLog log(&w);
+    QTest::mousePress(preview, Qt::RightButton);
+    QTest::mouseRelease(preview, Qt::RightButton);
+    QTest::mouseDClick(preview, Qt::LeftButton);
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(preview, &enter);
+    QVERIFY(log.lines.isEmpty());
+}
+
+// Sends a drag enter with these files to w and returns whether it was accepted.
+static bool sendDragEnter(QWidget *w, const QStringList &files)
+{
+    QMimeData mime;
+    QList<QUrl> urls;
+    for (const QString &file : files)
+        urls.append(QUrl::fromLocalFile(file));
+    mime.setUrls(urls);
+    QDragEnterEvent event(w->rect().center(), Qt::CopyAction | Qt::MoveAction, &mime,
+                          Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(w, &event);
+    return event.isAccepted();
+}
+
+static QMimeData *filesMime(const QStringList &files)
+{
+    auto *mime = new QMimeData;
+    QList<QUrl> urls;
+    for (const QString &file : files)
+        urls.append(QUrl::fromLocalFile(file));
+    mime->setUrls(urls);
+    return mime;
+}
+
+// Drags enterFiles onto w and drops dropData there, routed as Qt routes them: a drop reaches
+// only the widget that accepted the drag enter. Returns whether the drop was accepted (false
+// when no drop took place).
+static bool dragThenDrop(QWidget *w, const QStringList &enterFiles, const QMimeData &dropData)
+{
+    if (!sendDragEnter(w, enterFiles))
+        return false;
+    QDropEvent drop(w->rect().center(), Qt::CopyAction | Qt::MoveAction, &dropData, Qt::LeftButton,
+                    Qt::NoModifier);
+    drop.setAccepted(false);
+    QApplication::sendEvent(w, &drop);
+    return drop.isAccepted();
+}
+
+static bool dragAndDrop(QWidget *w, const QStringList &files)
+{
+    QScopedPointer<QMimeData> mime(filesMime(files));
+    return dragThenDrop(w, files, *mime);
+}
+
+void tst_QSbsImageWidget::dragEnter_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QStringList>("names");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("png") << "png;jpg;tga" << QStringList { "a.png" } << true;
+    QTest::newRow("upper case") << "png;jpg;tga" << QStringList { "SHOT.PNG" } << true;
+    QTest::newRow("part of a suffix") << "png;jpeg" << QStringList { "a.jpe" } << true;
+    QTest::newRow("text") << "png;jpg;tga" << QStringList { "notes.txt" } << false;
+    QTest::newRow("no suffix") << "png;jpg;tga" << QStringList { "README" } << false;
+    QTest::newRow("first counts") << "png" << QStringList { "notes.txt", "a.png" } << false;
+    QTest::newRow("first png") << "png" << QStringList { "a.png", "notes.txt" } << true;
+    QTest::newRow("empty filter") << "" << QStringList { "a.png" } << false;
+    QTest::newRow("not existing yet") << "png" << QStringList { "missing.png" } << true;
+}
+
+void tst_QSbsImageWidget::dragEnter()
+{
+    QFETCH(QString, filter);
+    QFETCH(QStringList, names);
+    QFETCH(bool, accepted);
+    QSbsImageWidget w;
+    initFull(w);
+    w.SetFileTypeFilter(filter);
+    QStringList files;
+    for (const QString &name : names)
+        files.append(m_dir.filePath(name));
+    QCOMPARE(sendDragEnter(&w, files), accepted);
+
+    // Data without files is never accepted.
+    QMimeData text;
+    text.setText(QStringLiteral("a.png"));
+    QDragEnterEvent event(QPoint(1, 1), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&w, &event);
+    QVERIFY(!event.isAccepted());
+}
+
+void tst_QSbsImageWidget::dropRules()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.SetFileTypeFilter(QStringLiteral("png;jpg;tga"));
+    const QString png = writePng(QStringLiteral("albedo.png"), Qt::red);
+    const QString text = writeFile(QStringLiteral("notes.txt"), "not an image");
+    QVERIFY(!png.isEmpty() && !text.isEmpty());
+    SignalLog log(&w);
+
+    QVERIFY(dragAndDrop(&w, { png }));
+    QCOMPARE(log.lines, QStringList { QStringLiteral("Drop 4711 albedo.png") });
+    log.lines.clear();
+
+    // A wrong suffix is refused at the drag enter, so no drop takes place.
+    QVERIFY(!dragAndDrop(&w, { text }));
+    // A file that does not exist is ignored at the drop.
+    QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("missing.png")) }));
+    // A folder is not a file.
+    QVERIFY(QDir(m_dir.path()).mkpath(QStringLiteral("folder.png")));
+    QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("folder.png")) }));
+    // The data changes between drag enter and drop: no files, a remote url.
+    QMimeData none;
+    none.setText(png);
+    QVERIFY(!dragThenDrop(&w, { png }, none));
+    QMimeData remote;
+    remote.setUrls({ QUrl(QStringLiteral("https://example.org/a.png")) });
+    QVERIFY(!dragThenDrop(&w, { png }, remote));
+    QVERIFY(log.lines.isEmpty());
+    QCOMPARE(comboOf(w)->currentIndex(), 13);
+    QVERIFY(previewPixmap(w).isNull());
+}
+
+void tst_QSbsImageWidget::dropOnDisabledWidget()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.SetFileTypeFilter(QStringLiteral("png"));
+    const QString png = writePng(QStringLiteral("disabled.png"), Qt::green);
+    w.setEnabled(false);
+    SignalLog log(&w);
+    // A disabled widget takes no drag, so no drop reaches it.
+    QVERIFY(!dragAndDrop(&w, { png }));
+    QVERIFY(log.lines.isEmpty());
+    w.setEnabled(true);
+    QVERIFY(dragAndDrop(&w, { png }));
+    QCOMPARE(log.lines, QStringList { QStringLiteral("Drop 4711 disabled.png") });
+}
+
+void tst_QSbsImageWidget::droppedImagesThroughLoader()
+{
+    // The host answers a dropped file by loading it through the library's image loader and
+    // pushing the result; anything the loader refuses leaves the slot as it was.
+    QSbsImageWidget w;
+    initFull(w);
+    w.SetFileTypeFilter(QStringLiteral("png;jpg"));
+    connect(&w, &QSbsImageWidget::DropFileCustomImageFile, &w, [&w](uint32_t, const QString &file) {
+        QImage image;
+        if (Vela::LoadImageFile(file, image))
+            w.SetImage(image);
+    });
+    const QString fake = writeFile(QStringLiteral("fake.png"), "plain text, not a png");
+    const QString empty = writeFile(QStringLiteral("empty.jpg"), QByteArray());
+    const QString huge = QStringLiteral(VELA_TEST_DATA_DIR "/sbs-huge-header.png");
+    QVERIFY(QFileInfo::exists(huge));
+    for (const QString &file : { fake, empty, huge }) {
+        dragAndDrop(&w, { file });
+        QVERIFY2(previewPixmap(w).isNull(), qPrintable(file));
+    }
+    QImage untouched(2, 2, QImage::Format_RGB32);
+    untouched.fill(Qt::blue);
+    QVERIFY(!Vela::LoadImageFile(huge, untouched));
+    QCOMPARE(untouched.size(), QSize(2, 2));
+
+    const QString png = writePng(QStringLiteral("good.png"), Qt::yellow);
+    QVERIFY(dragAndDrop(&w, { png }));
+    QCOMPARE(previewPixmap(w).toImage().pixelColor(8, 8), QColor(Qt::yellow));
+    QCOMPARE(w.GetImageSize(), QSize(102, 102));
+}
+
+void tst_QSbsImageWidget::sbsarVisibleIf()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    QVERIFY(w.GetSbsarVisibleif());
+    w.OnUpdateWidgetSbsarVisibleif(kUid + 1, false);
+    QVERIFY(w.isVisible());
+    QVERIFY(w.GetSbsarVisibleif());
+    w.OnUpdateWidgetSbsarVisibleif(kUid, false);
+    QVERIFY(!w.isVisible());
+    QVERIFY(!w.GetSbsarVisibleif());
+    QVERIFY(!w.signalsBlocked());
+    w.OnUpdateWidgetSbsarVisibleif(kUid, true);
+    QVERIFY(w.isVisible());
+    // The flag alone does not show or hide.
+    w.SetSbsarVisibleif(false);
+    QVERIFY(!w.GetSbsarVisibleif());
+    QVERIFY(w.isVisible());
+}
+
+void tst_QSbsImageWidget::accessors()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    QCOMPARE(w.objectName(), QStringLiteral("qtSbsImageWidget"));
+    QCOMPARE(w.GetUid(), uint32_t(kUid));
+    QCOMPARE(w.GetName(), QStringLiteral("Base Color Input"));
+    QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Base Color Input"));
+    QCOMPARE(w.GetNameLabel()->maximumWidth(), 102);
+    QLabel *preview = w.GetImageLabel();
+    QCOMPARE(preview->minimumSize(), QSize(102, 102));
+    QCOMPARE(preview->maximumSize(), QSize(102, 102));
+    QVERIFY(preview->hasScaledContents());
+    QCOMPARE(preview->styleSheet(), QStringLiteral("border: 1px solid #505050"));
+    w.SetImageTip(QStringLiteral("Double-click to load"));
+    QCOMPARE(preview->toolTip(), QStringLiteral("Double-click to load"));
+    w.SetLabelColor(QStringLiteral("color: #82be0f"));
+    QCOMPARE(w.GetNameLabel()->styleSheet(), QStringLiteral("color: #82be0f"));
+    QImage image(300, 200, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    w.SetImage(image);
+    QCOMPARE(previewPixmap(w).size(), QSize(300, 200));
+    QCOMPARE(w.GetImageSize(), QSize(102, 102));
+}
+
+void tst_QSbsImageWidget::signalSpyCarriesArguments()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    QSignalSpy channel(&w, &QSbsImageWidget::ImportImageFromChannel);
+    QVERIFY(channel.isValid());
+    w.SetSelectedChannel(7);
+    QCOMPARE(channel.count(), 1);
+    QCOMPARE(channel.at(0).at(0).value<uint32_t>(), uint32_t(kUid));
+    QCOMPARE(channel.at(0).at(1).value<Vela::ESubstanceUiChannel>(),
+             Vela::SubstanceChannel_Emissive);
+    // The string-based form of the signature names the host's types.
+    QSignalSpy removed(&w, SIGNAL(RemoveImage(uint32_t)));
+    QVERIFY(removed.isValid());
+    w.SetSelectedChannel(99999);
+    QCOMPARE(removed.count(), 1);
+}
+
+void tst_QSbsImageWidget::secondInitialize()
+{
+    QSbsImageWidget w;
+    initFull(w);
+    QCOMPARE(w.Initialize(7, QStringLiteral("Again")).code(), 0u);
+    QVERIFY(!comboOf(w));
+    QCOMPARE(w.findChildren<QLabel *>().size(), 2);
+    QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Again"));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+}
+
+VELA_TEST_CLASS(tst_QSbsImageWidget)
+#include "tst_QSbsImageWidget.moc"

@@ -1,0 +1,193 @@
+#include "QKdPlayWidget.h"
+#include "VelaTest.h"
+
+#include <QCloseEvent>
+#include <QtTest>
+
+class tst_QKdPlayWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void defaults();
+    void aspectKeptAcrossResizes_data();
+    void aspectKeptAcrossResizes();
+    void exportSizeChangesLayout();
+    void invalidExportSize_data();
+    void invalidExportSize();
+    void unlockedRatioFills();
+    void viewFoundAmongDescendants();
+    void noViewIsHarmless();
+    void refusesToClose();
+
+private:
+    QWidget *m_window = nullptr;
+    QKdPlayWidget *m_play = nullptr;
+    QWidget *m_view = nullptr;
+};
+
+void tst_QKdPlayWidget::init()
+{
+    // The play widget lives inside a window, so that its resizes are delivered at once.
+    m_window = new QWidget;
+    m_window->resize(1200, 900);
+    m_play = new QKdPlayWidget(m_window);
+    m_play->setGeometry(0, 0, 1000, 600);
+    m_view = new QWidget(m_play);
+    m_view->setObjectName(QStringLiteral("RenderView"));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+}
+
+void tst_QKdPlayWidget::cleanup()
+{
+    delete m_window;
+    m_window = nullptr;
+}
+
+void tst_QKdPlayWidget::defaults()
+{
+    QKdPlayWidget play(nullptr);
+    int width = 0;
+    int height = 0;
+    QCOMPARE(play.GetExportSize(width, height), Vela::Result(Vela::Result::Success));
+    QCOMPARE(width, 800);
+    QCOMPARE(height, 600);
+    QVERIFY(play.IsLockRatio());
+    QVERIFY(play.testAttribute(Qt::WA_SetCursor));
+    QCOMPARE(play.cursor().shape(), Qt::ArrowCursor);
+    QCOMPARE(play.UpdateExportSize(), Vela::Result(Vela::Result::Success));
+}
+
+void tst_QKdPlayWidget::aspectKeptAcrossResizes_data()
+{
+    QTest::addColumn<QSize>("widgetSize");
+    QTest::addColumn<QSize>("exportSize");
+    QTest::addColumn<QRect>("view");
+
+    QTest::newRow("wide widget, 4:3")
+        << QSize(1000, 600) << QSize(800, 600) << QRect(100, 0, 800, 600);
+    QTest::newRow("square widget, 4:3")
+        << QSize(800, 800) << QSize(800, 600) << QRect(0, 100, 800, 600);
+    QTest::newRow("one column too wide")
+        << QSize(801, 600) << QSize(800, 600) << QRect(0, 0, 800, 600);
+    QTest::newRow("1080p in 4:3") << QSize(640, 480) << QSize(1920, 1080) << QRect(0, 60, 640, 360);
+    QTest::newRow("portrait export")
+        << QSize(640, 480) << QSize(1080, 1920) << QRect(185, 0, 270, 480);
+    QTest::newRow("truncated height")
+        << QSize(333, 500) << QSize(800, 600) << QRect(0, 125, 333, 249);
+}
+
+void tst_QKdPlayWidget::aspectKeptAcrossResizes()
+{
+    QFETCH(QSize, widgetSize);
+    QFETCH(QSize, exportSize);
+    QFETCH(QRect, view);
+
+    m_play->SetExportSize(exportSize.width(), exportSize.height());
+    m_play->resize(300, 300);
+    m_play->resize(widgetSize);
+    QCOMPARE(m_view->geometry(), view);
+}
+
+void tst_QKdPlayWidget::exportSizeChangesLayout()
+{
+    QCOMPARE(m_view->geometry(), QRect(100, 0, 800, 600));
+    QCOMPARE(m_play->SetExportSize(1920, 1080), Vela::Result(Vela::Result::Success));
+    QCOMPARE(m_view->geometry(), QRect(0, 19, 1000, 562));
+    int width = 0;
+    int height = 0;
+    m_play->GetExportSize(width, height);
+    QCOMPARE(QSize(width, height), QSize(1920, 1080));
+
+    // The same size again lays nothing out.
+    m_view->setGeometry(1, 2, 3, 4);
+    QCOMPARE(m_play->SetExportSize(1920, 1080), Vela::Result(Vela::Result::NothingChanged));
+    QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
+    QCOMPARE(m_play->UpdateExportSize(), Vela::Result(Vela::Result::Success));
+    QCOMPARE(m_view->geometry(), QRect(0, 19, 1000, 562));
+}
+
+void tst_QKdPlayWidget::invalidExportSize_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("height");
+    QTest::newRow("zero width") << 0 << 600;
+    QTest::newRow("zero height") << 800 << 0;
+    QTest::newRow("negative") << -800 << -600;
+}
+
+void tst_QKdPlayWidget::invalidExportSize()
+{
+    QFETCH(int, width);
+    QFETCH(int, height);
+    m_view->setGeometry(1, 2, 3, 4);
+    const Vela::Result result = m_play->SetExportSize(width, height);
+    QCOMPARE(result.code(), 0x80000003u);
+    int storedWidth = 0;
+    int storedHeight = 0;
+    m_play->GetExportSize(storedWidth, storedHeight);
+    QCOMPARE(QSize(storedWidth, storedHeight), QSize(800, 600));
+    QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
+}
+
+void tst_QKdPlayWidget::unlockedRatioFills()
+{
+    m_play->SetLockRatio(false);
+    QVERIFY(!m_play->IsLockRatio());
+    QCOMPARE(m_view->geometry(), QRect(0, 0, 1000, 600));
+    m_play->resize(640, 700);
+    QCOMPARE(m_view->geometry(), QRect(0, 0, 640, 700));
+    m_play->SetExportSize(1920, 1080);
+    QCOMPARE(m_view->geometry(), QRect(0, 0, 640, 700));
+
+    m_play->SetLockRatio(true);
+    QCOMPARE(m_view->geometry(), QRect(0, 170, 640, 360));
+}
+
+void tst_QKdPlayWidget::viewFoundAmongDescendants()
+{
+    // A render view wrapped in a host frame: the first descendant widget is laid out.
+    QKdPlayWidget play(m_window);
+    QWidget frame(&play);
+    QWidget inner(&frame);
+    const QRect innerGeometry = inner.geometry();
+    play.setGeometry(0, 0, 1000, 600);
+    play.show();
+    play.UpdateKdCoreWndSize();
+    QCOMPARE(frame.geometry(), QRect(100, 0, 800, 600));
+    QCOMPARE(inner.geometry(), innerGeometry);
+}
+
+void tst_QKdPlayWidget::noViewIsHarmless()
+{
+    QKdPlayWidget play(m_window);
+    play.setGeometry(0, 0, 500, 400);
+    play.show();
+    play.UpdateKdCoreWndSize();
+    QCOMPARE(play.SetExportSize(1280, 720), Vela::Result(Vela::Result::Success));
+    play.SetLockRatio(false);
+    play.resize(0, 0);
+    QCOMPARE(play.size(), QSize(0, 0));
+}
+
+void tst_QKdPlayWidget::refusesToClose()
+{
+    QKdPlayWidget play;
+    play.resize(200, 150);
+    play.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&play));
+    QVERIFY(!play.close());
+    QVERIFY(play.isVisible());
+
+    QCloseEvent event;
+    QApplication::sendEvent(&play, &event);
+    QVERIFY(!event.isAccepted());
+    QVERIFY(play.isVisible());
+}
+
+VELA_TEST_CLASS(tst_QKdPlayWidget)
+#include "tst_QKdPlayWidget.moc"
