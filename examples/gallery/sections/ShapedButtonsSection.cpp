@@ -138,7 +138,7 @@ void clickAt(QWidget *container, const QPoint &pos)
 
 } // namespace
 
-GALLERY_ENTRY({ 10, "Basic", "QTransToolBtn",
+GALLERY_ENTRY({ 10, "Basic controls", "QTransToolBtn",
                 "Buttons shaped by their images: only opaque pixels belong to them. They leave "
                 "clicks to their parent; here a plain panel forwards them with "
                 "DoMouseClickAction (left) and DoMouseRightClickAction (right). The left button "
@@ -163,7 +163,7 @@ GALLERY_ENTRY({ 10, "Basic", "QTransToolBtn",
                 } })
 
 GALLERY_ENTRY(
-    { 60, "Facial", "QKdPickContainer",
+    { 60, "Facial key tables and picking", "QKdPickContainer",
       "A face-region picker: overlapping ellipse-shaped buttons whose transparent "
       "surroundings let clicks through to the region behind. Earlier regions win where "
       "they overlap; the last selected region stays selected.",
@@ -214,7 +214,7 @@ GALLERY_ENTRY(
           return page;
       } })
 
-GALLERY_ENTRY({ 80, "Containers", "QVelaContainer",
+GALLERY_ENTRY({ 80, "Lists, containers and layout", "QVelaContainer",
                 "A tool bar of overlapping round buttons in exclusive mode: a click counts when "
                 "press and release hit the same button, checking one unchecks the current one, "
                 "and right clicks are reported apart.",

@@ -11,7 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
-GALLERY_ENTRY({ 10, "Basic", "QMouseSpinBox",
+GALLERY_ENTRY({ 10, "Basic controls", "QMouseSpinBox",
                 "A double spin box that steps once per mouse move while the left button is held "
                 "over it: drag up (or sideways) to raise the value, down to lower it. The text "
                 "shows three decimals while the box rounds to four.",
@@ -35,7 +35,7 @@ GALLERY_ENTRY({ 10, "Basic", "QMouseSpinBox",
                     return page;
                 } })
 
-GALLERY_ENTRY({ 10, "Basic", "QClickableLabel",
+GALLERY_ENTRY({ 10, "Basic controls", "QClickableLabel",
                 "A label that reports presses of any mouse button as clicked() and double-clicks "
                 "as doubleClicked().",
                 [](GalleryContext &ctx) -> QWidget * {
@@ -51,7 +51,7 @@ GALLERY_ENTRY({ 10, "Basic", "QClickableLabel",
                     return label;
                 } })
 
-GALLERY_ENTRY({ 10, "Basic", "QHoverToolBtn",
+GALLERY_ENTRY({ 10, "Basic controls", "QHoverToolBtn",
                 "A tool button that reports the pointer entering (hovered) and leaving (left).",
                 [](GalleryContext &ctx) -> QWidget * {
                     auto *page = new QWidget;
@@ -70,7 +70,7 @@ GALLERY_ENTRY({ 10, "Basic", "QHoverToolBtn",
                     return page;
                 } })
 
-GALLERY_ENTRY({ 10, "Basic", "QVelaPushButton",
+GALLERY_ENTRY({ 10, "Basic controls", "QVelaPushButton",
                 "A push button that tells the left and right mouse buttons apart, for clicks and "
                 "double-clicks.",
                 [](GalleryContext &ctx) -> QWidget * {
@@ -95,7 +95,7 @@ GALLERY_ENTRY({ 10, "Basic", "QVelaPushButton",
                     return page;
                 } })
 
-GALLERY_ENTRY({ 10, "Basic", "QLineEditWithClear",
+GALLERY_ENTRY({ 10, "Basic controls", "QLineEditWithClear",
                 "A line edit with a clear button in its bottom right corner, shown while there is "
                 "text.",
                 [](GalleryContext &ctx) -> QWidget * {
