@@ -1,6 +1,7 @@
 #include "VelaWidgetCatalog.h"
 
 #include "QDialEx.h"
+#include "QSbsImageWidget.h"
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -20,6 +21,14 @@ const QVector<Entry> &Widgets()
         }
         // Host-only widgets.
         list.append({ QStringLiteral("QDialEx"), [] { return new QDialEx; } });
+        list.append({ QStringLiteral("QSbsImageWidget"), [] {
+                         auto *slot = new QSbsImageWidget;
+                         Vela::CMap<Vela::ESubstanceUiChannel, QString> channels;
+                         channels[Vela::ESubstanceUiChannel(0)] = QStringLiteral("Base color");
+                         slot->Initialize(1, QStringLiteral("Slot"), channels, {}, true);
+                         slot->SetFileTypeFilter(QStringLiteral("png;jpg"));
+                         return slot;
+                     } });
         return list;
     }();
     return entries;

@@ -193,6 +193,8 @@ private slots:
     void uiLoaderCreatesEveryWidget_data();
     void uiLoaderCreatesEveryWidget();
     void uiLoaderLoadsHandWrittenForm();
+    void uiLoaderLoadsLibraryForms_data();
+    void uiLoaderLoadsLibraryForms();
 
 private:
     QDesignerCustomWidgetInterface *descriptor(const char *name) const;
@@ -408,7 +410,7 @@ void tst_Designer::descriptors()
         QVERIFY(xml.startsWith(run + QLatin1String("<ui language=\"c++\">")));
         QVERIFY(!xml.contains(QLatin1Char('\n')));
         QVERIFY(!xml.contains(QString(26, QLatin1Char(' '))));
-        QCOMPARE(xml.count(run), 10);
+        QCOMPARE(xml.count(run), 11);
         QCOMPARE(parsed.extends, QStringLiteral("QWidget"));
         QCOMPARE(parsed.customClass, d->name());
         QVERIFY(parsed.hasAddPageMethod);
@@ -500,6 +502,68 @@ void tst_Designer::uiLoaderLoadsHandWrittenForm()
     auto *combo = form->findChild<QWidget *>(QStringLiteral("modeCombo"));
     QCOMPARE(combo->property("ignoreWheelEvent").toBool(), true);
     QCOMPARE(combo->property("count").toInt(), 2);
+}
+
+void tst_Designer::uiLoaderLoadsLibraryForms_data()
+{
+    QTest::addColumn<QString>("path");
+    QDirIterator it(QStringLiteral(VELA_SOURCE_DIR "/widgets"), { QStringLiteral("*.ui") },
+                    QDir::Files, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+    }
+}
+
+// The library's own forms, loaded as Designer shows them: every widget of the form is created as
+// its class (the library's through this collection) and keeps the integer properties it names.
+void tst_Designer::uiLoaderLoadsLibraryForms()
+{
+    QFETCH(QString, path);
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QScopedPointer<QWidget> root(loader.load(&file));
+    QVERIFY2(root, qPrintable(loader.errorString()));
+
+    QVERIFY(file.seek(0));
+    QXmlStreamReader reader(&file);
+    QVector<QWidget *> widgets; // the open widget elements
+    QStringList elements;
+    QString property; // an integer property of the innermost widget, while inside it
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isEndElement()) {
+            if (elements.takeLast() == QLatin1String("widget"))
+                widgets.removeLast();
+            property.clear();
+            continue;
+        }
+        if (!reader.isStartElement())
+            continue;
+        const QString name = reader.name().toString();
+        const QString parent = elements.isEmpty() ? QString() : elements.last();
+        elements.append(name);
+        if (name == QLatin1String("widget")) {
+            const QString className = reader.attributes().value(QLatin1String("class")).toString();
+            const QString objectName = reader.attributes().value(QLatin1String("name")).toString();
+            QWidget *widget =
+                widgets.isEmpty() ? root.data() : root->findChild<QWidget *>(objectName);
+            QVERIFY2(widget, qPrintable(objectName));
+            if (!widgets.isEmpty())
+                QCOMPARE(QLatin1String(widget->metaObject()->className()), className);
+            widgets.append(widget);
+        } else if (name == QLatin1String("property") && parent == QLatin1String("widget")) {
+            property = reader.attributes().value(QLatin1String("name")).toString();
+        } else if (name == QLatin1String("number") && !property.isEmpty()) {
+            const int number = reader.readElementText().toInt();
+            elements.removeLast();
+            QCOMPARE(widgets.last()->property(property.toLatin1()).toInt(), number);
+        }
+    }
+    QVERIFY2(!reader.hasError(), qPrintable(reader.errorString()));
 }
 
 QTEST_MAIN(tst_Designer)

@@ -1,0 +1,139 @@
+#ifndef COMBOEDITORTESTSUPPORT_H
+#define COMBOEDITORTESTSUPPORT_H
+
+// What the tests of the slider–spin-box editors share: dragging a slider's handle to an exact
+// position as a user does, double-clicking, typing into a spin box, and a folder holding the
+// arrow images that the editors look for in the current folder.
+
+#include <QAbstractSpinBox>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QSlider>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace ComboEditorTest {
+
+inline QStyleOptionSlider sliderOption(const QSlider *slider)
+{
+    QStyleOptionSlider option;
+    option.initFrom(slider);
+    option.subControls = QStyle::SC_None;
+    option.activeSubControls = QStyle::SC_None;
+    option.orientation = slider->orientation();
+    option.minimum = slider->minimum();
+    option.maximum = slider->maximum();
+    option.tickPosition = slider->tickPosition();
+    option.tickInterval = slider->tickInterval();
+    option.upsideDown = slider->invertedAppearance();
+    option.sliderPosition = slider->sliderPosition();
+    option.sliderValue = slider->value();
+    option.singleStep = slider->singleStep();
+    option.pageStep = slider->pageStep();
+    if (slider->orientation() == Qt::Horizontal)
+        option.state |= QStyle::State_Horizontal;
+    return option;
+}
+
+inline QRect handleRect(const QSlider *slider)
+{
+    const QStyleOptionSlider option = sliderOption(slider);
+    return slider->style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle,
+                                           slider);
+}
+
+// The horizontal distance by which the handle must be dragged to reach `target`, as the slider
+// converts pixels to values; -1 when no pixel maps exactly to it.
+inline int dragDistanceTo(const QSlider *slider, int target)
+{
+    const QStyleOptionSlider option = sliderOption(slider);
+    const QRect groove = slider->style()->subControlRect(QStyle::CC_Slider, &option,
+                                                         QStyle::SC_SliderGroove, slider);
+    const QRect handle = handleRect(slider);
+    const int span = groove.right() - handle.width() + 1 - groove.x();
+    for (int x = 0; x <= span; ++x) {
+        if (QStyle::sliderValueFromPosition(slider->minimum(), slider->maximum(), x, span,
+                                            option.upsideDown)
+            == target) {
+            return x - (handle.x() - groove.x());
+        }
+    }
+    return -1;
+}
+
+// Presses the left button on the handle, moves it in a few steps and releases it.
+inline void dragHandle(QSlider *slider, int distance)
+{
+    const QPoint from = handleRect(slider).center();
+    QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, from);
+    const int steps = 4;
+    QPoint to = from;
+    for (int i = 1; i <= steps; ++i) {
+        to = from + QPoint(distance * i / steps, 0);
+        QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(slider, &move);
+    }
+    QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+// Drags the handle so that the slider ends at `target`; fails the test when no pixel maps to it.
+#define COMBO_DRAG_SLIDER_TO(slider, target)                                                       \
+    do {                                                                                           \
+        const int comboDistance = ComboEditorTest::dragDistanceTo((slider), (target));             \
+        QVERIFY2(comboDistance != -1, "no pixel maps to the target");                              \
+        ComboEditorTest::dragHandle((slider), comboDistance);                                      \
+        QCOMPARE((slider)->value(), (target));                                                     \
+    } while (false)
+
+inline void doubleClick(QWidget *widget, Qt::MouseButton button, QPoint pos = QPoint())
+{
+    QTest::mouseDClick(widget, button, Qt::NoModifier, pos);
+}
+
+// Focuses the spin box, replaces its text as a user does and presses Enter.
+#define COMBO_TYPE_INTO(spinBox, text)                                                             \
+    do {                                                                                           \
+        (spinBox)->setFocus();                                                                     \
+        QTRY_VERIFY((spinBox)->hasFocus());                                                        \
+        QTest::keyClick((spinBox), Qt::Key_A, Qt::ControlModifier);                                \
+        QTest::keyClicks((spinBox), (text));                                                       \
+        QTest::keyClick((spinBox), Qt::Key_Return);                                                \
+    } while (false)
+
+inline QByteArray arrowSvg(int size, const char *points)
+{
+    return QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"")
+        + QByteArray::number(size) + "\" height=\"" + QByteArray::number(size)
+        + "\" viewBox=\"0 0 10 10\"><polygon points=\"" + points + "\" fill=\"#82be0f\"/></svg>";
+}
+
+// Makes a temporary folder current for as long as it lives, optionally holding arrow images.
+class CurrentFolder
+{
+public:
+    CurrentFolder()
+        : m_previous(QDir::currentPath())
+    {
+        QDir::setCurrent(m_dir.path());
+    }
+    ~CurrentFolder() { QDir::setCurrent(m_previous); }
+
+    bool write(const QString &name, const QByteArray &contents) const
+    {
+        QFile file(m_dir.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_previous;
+};
+
+} // namespace ComboEditorTest
+
+#endif // COMBOEDITORTESTSUPPORT_H

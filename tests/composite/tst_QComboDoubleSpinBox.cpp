@@ -1,0 +1,354 @@
+#include "ComboEditorTestSupport.h"
+#include "QComboDoubleSpinBox.h"
+#include "VelaTest.h"
+
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using namespace ComboEditorTest;
+
+class tst_QComboDoubleSpinBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void initialState();
+    void formNames();
+    void propertyOrder();
+    void setValueEmitsOnceWithoutChildSignals();
+    void truncationTowardZero();
+    void dragWithThreeDecimals();
+    void typingAndEnter();
+    void wheelOnlyWhenFocused();
+    void independentRange();
+    void rangeKeepsChildrenTogether();
+    void steps();
+    void decimalsDoNotRescale();
+    void editedMarking();
+    void doubleClickReset_data();
+    void doubleClickReset();
+
+private:
+    QWidget *m_window = nullptr;
+    QLineEdit *m_other = nullptr;
+    QComboDoubleSpinBox *m_editor = nullptr;
+    QSliderEx *m_slider = nullptr;
+    QDoubleSpinBoxEx *m_spin = nullptr;
+    QStringList m_log;
+};
+
+void tst_QComboDoubleSpinBox::init()
+{
+    m_window = new QWidget;
+    auto *layout = new QVBoxLayout(m_window);
+    m_other = new QLineEdit(m_window);
+    m_editor = new QComboDoubleSpinBox(m_window);
+    m_editor->setText(QStringLiteral("Roughness"));
+    // Wide enough for every position of a 0 to 1000 slider to lie under some pixel.
+    m_editor->setMinimumWidth(1300);
+    layout->addWidget(m_other);
+    layout->addWidget(m_editor);
+    m_slider = m_editor->UI()->qtHorizontalSlider;
+    m_spin = m_editor->UI()->qtDoubleSpinBox;
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    m_other->setFocus();
+    QTRY_VERIFY(m_other->hasFocus());
+    m_log.clear();
+    connect(m_editor, &QComboDoubleSpinBox::ValueChanged, this,
+            [this](double value) { m_log << QStringLiteral("ValueChanged(%1)").arg(value); });
+    connect(m_editor, &QComboDoubleSpinBox::EditFinished, this,
+            [this] { m_log << QStringLiteral("EditFinished"); });
+}
+
+void tst_QComboDoubleSpinBox::cleanup()
+{
+    delete m_window;
+}
+
+void tst_QComboDoubleSpinBox::initialState()
+{
+    QComboDoubleSpinBox editor;
+    QSliderEx *slider = editor.UI()->qtHorizontalSlider;
+    QCOMPARE(editor.Decimals(), 2);
+    QCOMPARE(slider->minimum(), 0);
+    QCOMPARE(slider->maximum(), 9900);
+    QCOMPARE(slider->singleStep(), 100);
+    QCOMPARE(slider->pageStep(), 1000);
+    QCOMPARE(slider->value(), 0);
+    QCOMPARE(editor.Value(), 0.0);
+    QCOMPARE(editor.Minimum(), 0.0);
+    QCOMPARE(editor.Maximum(), 99.99);
+    QCOMPARE(editor.SingleStep(), 1.0);
+    QCOMPARE(editor.PageStep(), 10.0);
+    QCOMPARE(editor.DefaultValue(), 0.0);
+    QCOMPARE(slider->objectName(), QStringLiteral("qtHorizontalSlider"));
+    QCOMPARE(slider->focusPolicy(), Qt::NoFocus);
+    // The spin box's 99.99 lies beyond the slider's 99.00.
+    QVERIFY(editor.UI()->qtLeftArrowLabel->isHidden());
+    QVERIFY(!editor.UI()->qtRightArrowLabel->isHidden());
+}
+
+void tst_QComboDoubleSpinBox::formNames()
+{
+    QComboDoubleSpinBox editor;
+    Ui::SliderDoubleSpinbox *ui = editor.UI();
+    QCOMPARE(editor.objectName(), QStringLiteral("SliderDoubleSpinbox"));
+    QCOMPARE(editor.windowTitle(), QStringLiteral("Form"));
+    QCOMPARE(ui->qtDoubleSpinBox->objectName(), QStringLiteral("qtDoubleSpinBox"));
+    QCOMPARE(editor.layout(), ui->verticalLayout);
+    QCOMPARE(ui->horizontalLayout->spacing(), 10);
+    QCOMPARE(ui->horizontalLayout->indexOf(ui->qtDoubleSpinBox), 1);
+    QCOMPARE(ui->qtLeftArrowLabel->maximumSize(), QSize(10, 10));
+    QCOMPARE(ui->qtRightArrowLabel->maximumSize(), QSize(10, 10));
+    QCOMPARE(ui->qtDoubleSpinBox->parentWidget(), &editor);
+}
+
+void tst_QComboDoubleSpinBox::propertyOrder()
+{
+    const QMetaObject *meta = &QComboDoubleSpinBox::staticMetaObject;
+    QStringList names;
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        names << QLatin1String(meta->property(i).name());
+    const QStringList expected = {
+        "decimals",
+        "spacing",
+        "value",
+        "minimum",
+        "maximum",
+        "singleStep",
+        "pageStep",
+        "independentSpin",
+        "spinMinimum",
+        "spinMaximum",
+        "resetOnDoubleClick",
+        "defaultValue",
+        "labelVisible",
+        "labelName",
+        "text",
+        "textFormat",
+        "pixmap",
+        "scaledContents",
+        "wordWrap",
+        "labelOrientation",
+        "wrapping",
+        "frame",
+        "alignment",
+        "readOnly",
+        "buttonSymbols",
+        "specialValueText",
+        "accelerated",
+        "correctionMode",
+        "keyboardTracking",
+        "showGroupSeparator",
+        "tickPosition",
+        "tickInterval",
+        "tracking",
+        "orientation",
+        "invertedAppearance",
+        "invertedControls",
+        "sliderDown",
+    };
+    QCOMPARE(names, expected);
+    QCOMPARE(meta->property(meta->indexOfProperty("value")).type(), QVariant::Double);
+    QCOMPARE(meta->property(meta->indexOfProperty("decimals")).type(), QVariant::Int);
+}
+
+void tst_QComboDoubleSpinBox::setValueEmitsOnceWithoutChildSignals()
+{
+    QSignalSpy spinSpy(m_spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
+    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
+    m_editor->SetValue(12.5);
+    QCOMPARE(m_log, QStringList { "ValueChanged(12.5)" });
+    QCOMPARE(spinSpy.count(), 0);
+    QCOMPARE(sliderSpy.count(), 0);
+    QCOMPARE(m_editor->Value(), 12.5);
+    QCOMPARE(m_slider->value(), 1250);
+}
+
+void tst_QComboDoubleSpinBox::truncationTowardZero()
+{
+    // 100 * 0.29 is 28.999999999999996 in double precision: the slider stays at 28.
+    m_editor->SetValue(0.29);
+    QCOMPARE(m_slider->value(), 28);
+    m_editor->SetValue(0.299999);
+    QCOMPARE(m_slider->value(), 29);
+    QCOMPARE(m_editor->Value(), 0.3);
+
+    m_editor->SetMinimum(-5.0);
+    m_editor->SetValue(-0.29);
+    QCOMPARE(m_slider->value(), -28);
+
+    COMBO_TYPE_INTO(m_spin, "0.29");
+    QCOMPARE(m_editor->Value(), 0.29);
+    QCOMPARE(m_slider->value(), 28);
+}
+
+void tst_QComboDoubleSpinBox::dragWithThreeDecimals()
+{
+    m_editor->SetDecimals(3);
+    m_editor->SetMinimum(0.0);
+    m_editor->SetMaximum(1.0);
+    QCOMPARE(m_slider->minimum(), 0);
+    QCOMPARE(m_slider->maximum(), 1000);
+    QVERIFY(m_editor->UI()->qtRightArrowLabel->isHidden());
+    m_log.clear();
+
+    COMBO_DRAG_SLIDER_TO(m_slider, 250);
+    QCOMPARE(m_editor->Value(), 0.25);
+    QCOMPARE(m_log.at(m_log.size() - 2), QStringLiteral("ValueChanged(0.25)"));
+    QCOMPARE(m_log.last(), QStringLiteral("EditFinished"));
+    QCOMPARE(m_log.count(QStringLiteral("EditFinished")), 1);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
+}
+
+void tst_QComboDoubleSpinBox::typingAndEnter()
+{
+    COMBO_TYPE_INTO(m_spin, "12.5");
+    QCOMPARE(m_editor->Value(), 12.5);
+    QCOMPARE(m_slider->value(), 1250);
+    QCOMPARE(m_log, (QStringList { "ValueChanged(12.5)", "EditFinished" }));
+    QTRY_VERIFY(!m_spin->hasFocus());
+
+    // Beyond the range, with as many digits as its maximum: clamped when the key is released.
+    m_editor->SetMaximum(50.0);
+    m_log.clear();
+    COMBO_TYPE_INTO(m_spin, "75");
+    QCOMPARE(m_editor->Value(), 50.0);
+    QCOMPARE(m_slider->value(), 5000);
+    QCOMPARE(m_log, (QStringList { "ValueChanged(50)", "EditFinished" }));
+}
+
+void tst_QComboDoubleSpinBox::wheelOnlyWhenFocused()
+{
+    QVERIFY(!VelaTest::wheel(m_slider, 2));
+    QVERIFY(!VelaTest::wheel(m_spin, 2));
+    QVERIFY(m_log.isEmpty());
+
+    m_spin->setFocus();
+    QTRY_VERIFY(m_spin->hasFocus());
+    QVERIFY(VelaTest::wheel(m_spin, 1));
+    QCOMPARE(m_editor->Value(), 1.0);
+    QCOMPARE(m_slider->value(), 100);
+    QCOMPARE(m_log, QStringList { "ValueChanged(1)" });
+}
+
+void tst_QComboDoubleSpinBox::independentRange()
+{
+    m_editor->SetMaximum(50.0);
+    QCOMPARE(m_spin->maximum(), 50.0);
+    QCOMPARE(m_slider->maximum(), 5000);
+    QVERIFY(m_editor->UI()->qtRightArrowLabel->isHidden());
+
+    m_editor->SetIndependentSpin(true);
+    m_editor->SetMaximum(20.0);
+    QCOMPARE(m_spin->maximum(), 50.0);
+    QCOMPARE(m_slider->maximum(), 2000);
+    QCOMPARE(m_editor->Maximum(), 20.0);
+    QCOMPARE(m_editor->SpinMaximum(), 50.0);
+    QVERIFY(!m_editor->UI()->qtRightArrowLabel->isHidden());
+
+    m_editor->SetSpinMaximum(15.0);
+    QVERIFY(m_editor->UI()->qtRightArrowLabel->isHidden());
+    m_editor->SetSpinMinimum(-1.0);
+    QVERIFY(!m_editor->UI()->qtLeftArrowLabel->isHidden());
+    QCOMPARE(m_slider->minimum(), 0);
+
+    m_editor->SetSpinMaximum(50.0);
+    COMBO_TYPE_INTO(m_spin, "35");
+    QCOMPARE(m_editor->Value(), 35.0);
+    QCOMPARE(m_slider->value(), 2000);
+    QVERIFY(m_log.contains(QStringLiteral("ValueChanged(35)")));
+}
+
+void tst_QComboDoubleSpinBox::rangeKeepsChildrenTogether()
+{
+    m_editor->SetValue(60.0);
+    m_editor->SetMaximum(20.0);
+    QCOMPARE(m_editor->Value(), 20.0);
+    QCOMPARE(m_slider->value(), 2000);
+    QCOMPARE(m_log.last(), QStringLiteral("ValueChanged(20)"));
+    QCOMPARE(m_editor->SpinMinimum(), 0.0);
+    m_editor->SetMinimum(5.0);
+    QCOMPARE(m_editor->Minimum(), 5.0);
+    QCOMPARE(m_slider->minimum(), 500);
+}
+
+void tst_QComboDoubleSpinBox::steps()
+{
+    m_editor->SetSingleStep(0.5);
+    QCOMPARE(m_spin->singleStep(), 0.5);
+    QCOMPARE(m_slider->singleStep(), 50);
+    QCOMPARE(m_editor->SingleStep(), 0.5);
+    m_editor->SetPageStep(2.5);
+    QCOMPARE(m_slider->pageStep(), 250);
+    QCOMPARE(m_editor->PageStep(), 2.5);
+}
+
+void tst_QComboDoubleSpinBox::decimalsDoNotRescale()
+{
+    m_editor->SetDecimals(3);
+    QCOMPARE(m_editor->Decimals(), 3);
+    QCOMPARE(m_editor->property("decimals").toInt(), 3);
+    QCOMPARE(m_slider->maximum(), 9900);
+    // New values use the new scale.
+    m_editor->SetValue(1.5);
+    QCOMPARE(m_slider->value(), 1500);
+}
+
+void tst_QComboDoubleSpinBox::editedMarking()
+{
+    m_editor->SetDefaultValue(0.25);
+    m_editor->SetValue(0.25);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
+    m_editor->SetValue(0.26);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
+    // The comparison is made in slider positions.
+    m_editor->SetValue(0.259);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
+}
+
+void tst_QComboDoubleSpinBox::doubleClickReset_data()
+{
+    QTest::addColumn<bool>("onLabel");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("resets");
+    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true;
+    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true;
+    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << false;
+    QTest::newRow("disabled") << true << int(Qt::LeftButton) << false << false;
+}
+
+void tst_QComboDoubleSpinBox::doubleClickReset()
+{
+    QFETCH(bool, onLabel);
+    QFETCH(int, button);
+    QFETCH(bool, enabled);
+    QFETCH(bool, resets);
+
+    m_editor->SetDefaultValue(2.5);
+    m_editor->SetResetOnDoubleClick(true);
+    m_editor->SetValue(40.0);
+    m_editor->setEnabled(enabled);
+    m_log.clear();
+
+    QWidget *target = onLabel ? static_cast<QWidget *>(m_editor->UI()->qtLabel) : m_slider;
+    doubleClick(target, Qt::MouseButton(button),
+                onLabel ? QPoint() : handleRect(m_slider).center());
+    if (resets) {
+        QCOMPARE(m_log, (QStringList { "ValueChanged(2.5)", "EditFinished" }));
+        QCOMPARE(m_editor->Value(), 2.5);
+        QCOMPARE(m_slider->value(), 250);
+        QVERIFY(!m_slider->isSliderDown());
+    } else {
+        QVERIFY(m_log.isEmpty());
+        QCOMPARE(m_editor->Value(), 40.0);
+    }
+}
+
+VELA_TEST_CLASS(tst_QComboDoubleSpinBox)
+#include "tst_QComboDoubleSpinBox.moc"

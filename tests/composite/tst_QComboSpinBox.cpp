@@ -1,0 +1,568 @@
+#include "ComboEditorTestSupport.h"
+#include "QComboSpinBox.h"
+#include "VelaTest.h"
+
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using namespace ComboEditorTest;
+
+class tst_QComboSpinBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void initialState();
+    void formLayout();
+    void propertyOrder();
+    void setValueEmitsOnceWithoutChildSignals();
+    void sliderDragIsOneSession();
+    void typingInIndependentRange();
+    void typingBeyondRangeIsClamped();
+    void steppingByKeysAndWheel();
+    void wheelNeverMovesSlider();
+    void rangeSetters();
+    void rangeSettersAreSilent();
+    void mappings();
+    void editedMarking();
+    void markingRepolishes();
+    void doubleClickReset_data();
+    void doubleClickReset();
+    void labelOrientationIsStoredOnly();
+    void forwardedProperties_data();
+    void forwardedProperties();
+    void arrowImages();
+
+private:
+    void record();
+
+    QWidget *m_window = nullptr;
+    QLineEdit *m_other = nullptr;
+    QComboSpinBox *m_editor = nullptr;
+    QSliderEx *m_slider = nullptr;
+    QSpinBoxEx *m_spin = nullptr;
+    QStringList m_log;
+};
+
+void tst_QComboSpinBox::init()
+{
+    m_window = new QWidget;
+    auto *layout = new QVBoxLayout(m_window);
+    m_other = new QLineEdit(m_window);
+    m_editor = new QComboSpinBox(m_window);
+    m_editor->setText(QStringLiteral("Strength"));
+    m_editor->setMinimumWidth(600);
+    layout->addWidget(m_other);
+    layout->addWidget(m_editor);
+    m_slider = m_editor->UI()->qtHorizontalSlider;
+    m_spin = m_editor->UI()->qtSpinBox;
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowActive(m_window));
+    m_other->setFocus();
+    QTRY_VERIFY(m_other->hasFocus());
+    m_log.clear();
+    record();
+}
+
+void tst_QComboSpinBox::cleanup()
+{
+    delete m_window;
+}
+
+// Logs the editor's signals in the order the host receives them.
+void tst_QComboSpinBox::record()
+{
+    connect(m_editor, &QComboSpinBox::ValueChanged, this,
+            [this](int value) { m_log << QStringLiteral("ValueChanged(%1)").arg(value); });
+    connect(m_editor, &QComboSpinBox::EditStarted, this,
+            [this] { m_log << QStringLiteral("EditStarted"); });
+    connect(m_editor, &QComboSpinBox::EditFinished, this,
+            [this] { m_log << QStringLiteral("EditFinished"); });
+}
+
+void tst_QComboSpinBox::initialState()
+{
+    QComboSpinBox editor;
+    QCOMPARE(editor.Value(), 0);
+    QCOMPARE(editor.Minimum(), 0);
+    QCOMPARE(editor.Maximum(), 99);
+    QCOMPARE(editor.DefaultValue(), 0);
+    QVERIFY(!editor.IndependentSpin());
+    QVERIFY(!editor.ResetOnDoubleClick());
+    QCOMPARE(editor.labelOrientation(), Qt::Vertical);
+    QCOMPARE(editor.UI()->qtHorizontalSlider->objectName(), QStringLiteral("qtHorizontalSlider"));
+    QVERIFY(editor.UI()->qtLeftArrowLabel->isHidden());
+    QVERIFY(editor.UI()->qtRightArrowLabel->isHidden());
+    QCOMPARE(editor.UI()->qtHorizontalSlider->focusPolicy(), Qt::NoFocus);
+    QCOMPARE(editor.UI()->qtSpinBox->focusPolicy(), Qt::StrongFocus);
+    QVERIFY(!editor.UI()->qtSpinBox->keyboardTracking());
+    QCOMPARE(editor.LabelName(), QStringLiteral("qtLabel"));
+
+    // The label sits above the slider row.
+    const QRect label = m_editor->UI()->qtLabel->geometry();
+    QCOMPARE(m_editor->UI()->qtLabel->parentWidget(), m_editor);
+    QVERIFY(label.bottom() <= m_slider->geometry().top());
+    QVERIFY(m_editor->LabelVisible());
+}
+
+void tst_QComboSpinBox::formLayout()
+{
+    QComboSpinBox editor;
+    Ui::SliderSpinbox *ui = editor.UI();
+    QCOMPARE(editor.objectName(), QStringLiteral("SliderSpinbox"));
+    QCOMPARE(editor.windowTitle(), QStringLiteral("Form"));
+    QCOMPARE(editor.size(), QSize(262, 33));
+    QCOMPARE(ui->horizontalLayoutWidget->geometry(), QRect(0, 0, 261, 31));
+    QCOMPARE(editor.layout(), ui->verticalLayout);
+    QCOMPARE(ui->verticalLayout->objectName(), QStringLiteral("verticalLayout"));
+    QCOMPARE(ui->verticalLayout->spacing(), 0);
+    QCOMPARE(ui->verticalLayout->contentsMargins(), QMargins(0, 0, 0, 0));
+    QCOMPARE(ui->horizontalLayout->spacing(), 10);
+    QCOMPARE(ui->horizontalLayout_2->spacing(), 0);
+    QCOMPARE(ui->horizontalLayout_2->contentsMargins().left(), 0);
+    QCOMPARE(ui->horizontalLayout_2->contentsMargins().right(), 0);
+    QCOMPARE(ui->horizontalLayout_2->indexOf(ui->qtLeftArrowLabel), 0);
+    QCOMPARE(ui->horizontalLayout_2->indexOf(ui->qtHorizontalSlider), 1);
+    QCOMPARE(ui->horizontalLayout_2->indexOf(ui->qtRightArrowLabel), 2);
+    QCOMPARE(ui->horizontalLayout->indexOf(ui->qtSpinBox), 1);
+    for (QLabel *arrow : { ui->qtLeftArrowLabel, ui->qtRightArrowLabel }) {
+        QCOMPARE(arrow->minimumSize(), QSize(10, 10));
+        QCOMPARE(arrow->maximumSize(), QSize(10, 10));
+        QVERIFY(arrow->hasScaledContents());
+        QVERIFY(arrow->text().isEmpty());
+    }
+    QCOMPARE(ui->qtLeftArrowLabel->alignment(), Qt::AlignRight | Qt::AlignVCenter);
+    QCOMPARE(ui->qtHorizontalSlider->orientation(), Qt::Horizontal);
+    for (QWidget *child :
+         { static_cast<QWidget *>(ui->qtLabel), static_cast<QWidget *>(ui->qtHorizontalSlider),
+           static_cast<QWidget *>(ui->qtSpinBox) })
+        QCOMPARE(child->parentWidget(), &editor);
+    QCOMPARE(editor.Spacing(), 0);
+    editor.SetSpacing(4);
+    QCOMPARE(ui->verticalLayout->spacing(), 4);
+}
+
+void tst_QComboSpinBox::propertyOrder()
+{
+    const QMetaObject *meta = &QComboSpinBox::staticMetaObject;
+    QStringList names;
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        names << QLatin1String(meta->property(i).name());
+    const QStringList expected = {
+        "spacing",
+        "value",
+        "minimum",
+        "maximum",
+        "singleStep",
+        "pageStep",
+        "independentSpin",
+        "spinMinimum",
+        "spinMaximum",
+        "resetOnDoubleClick",
+        "defaultValue",
+        "labelVisible",
+        "labelName",
+        "text",
+        "textFormat",
+        "pixmap",
+        "scaledContents",
+        "wordWrap",
+        "labelOrientation",
+        "wrapping",
+        "frame",
+        "alignment",
+        "readOnly",
+        "buttonSymbols",
+        "specialValueText",
+        "accelerated",
+        "correctionMode",
+        "keyboardTracking",
+        "showGroupSeparator",
+        "tickPosition",
+        "tickInterval",
+        "tracking",
+        "orientation",
+        "invertedAppearance",
+        "invertedControls",
+        "sliderDown",
+    };
+    QCOMPARE(names, expected);
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        QVERIFY2(meta->property(i).isWritable(), meta->property(i).name());
+}
+
+void tst_QComboSpinBox::setValueEmitsOnceWithoutChildSignals()
+{
+    QSignalSpy spinSpy(m_spin, QOverload<int>::of(&QSpinBox::valueChanged));
+    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
+    QSignalSpy sliderRecord(m_slider, &QSliderEx::RecordEditingValue);
+    m_editor->SetValue(42);
+    QCOMPARE(m_log, QStringList { "ValueChanged(42)" });
+    QCOMPARE(spinSpy.count(), 0);
+    QCOMPARE(sliderSpy.count(), 0);
+    QCOMPARE(m_editor->Value(), 42);
+    QCOMPARE(m_slider->value(), 42);
+
+    // The slider treats the programmatic value as recorded: a later focus change reports nothing.
+    m_slider->setFocusPolicy(Qt::StrongFocus);
+    m_slider->setFocus();
+    QTRY_VERIFY(m_slider->hasFocus());
+    m_other->setFocus();
+    QTRY_VERIFY(m_other->hasFocus());
+    QCOMPARE(sliderRecord.count(), 0);
+    QCOMPARE(m_log, QStringList { "ValueChanged(42)" });
+}
+
+void tst_QComboSpinBox::sliderDragIsOneSession()
+{
+    m_editor->SetMaximum(50);
+    m_log.clear();
+    COMBO_DRAG_SLIDER_TO(m_slider, 30);
+    QCOMPARE(m_editor->Value(), 30);
+    QCOMPARE(m_spin->value(), 30);
+    QVERIFY(m_log.size() >= 3);
+    QCOMPARE(m_log.first(), QStringLiteral("EditStarted"));
+    QCOMPARE(m_log.at(m_log.size() - 2), QStringLiteral("ValueChanged(30)"));
+    QCOMPARE(m_log.last(), QStringLiteral("EditFinished"));
+    QCOMPARE(m_log.count(QStringLiteral("EditStarted")), 1);
+    QCOMPARE(m_log.count(QStringLiteral("EditFinished")), 1);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
+}
+
+void tst_QComboSpinBox::typingInIndependentRange()
+{
+    m_editor->SetIndependentSpin(true);
+    m_editor->SetMaximum(100);
+    m_editor->SetSpinMaximum(200);
+    QCOMPARE(m_slider->maximum(), 100);
+    QCOMPARE(m_editor->Maximum(), 100);
+    QCOMPARE(m_editor->SpinMaximum(), 200);
+    QVERIFY(m_editor->UI()->qtRightArrowLabel->isVisible());
+    QVERIFY(!m_editor->UI()->qtLeftArrowLabel->isVisible());
+
+    COMBO_TYPE_INTO(m_spin, "150");
+    QCOMPARE(m_editor->Value(), 150);
+    QCOMPARE(m_slider->value(), 100);
+    QCOMPARE(m_log, (QStringList { "EditStarted", "ValueChanged(150)", "EditFinished" }));
+    QTRY_VERIFY(!m_spin->hasFocus());
+}
+
+void tst_QComboSpinBox::typingBeyondRangeIsClamped()
+{
+    m_editor->SetMaximum(150);
+    COMBO_TYPE_INTO(m_spin, "999");
+    QCOMPARE(m_editor->Value(), 150);
+    QCOMPARE(m_slider->value(), 150);
+    QCOMPARE(m_spin->maximum(), 150);
+    QCOMPARE(m_log.count(QStringLiteral("EditFinished")), 1);
+    QCOMPARE(m_log.last(), QStringLiteral("EditFinished"));
+    QVERIFY(m_log.contains(QStringLiteral("ValueChanged(150)")));
+}
+
+void tst_QComboSpinBox::steppingByKeysAndWheel()
+{
+    m_spin->setFocus();
+    QTRY_VERIFY(m_spin->hasFocus());
+    QTest::keyClick(m_spin, Qt::Key_Up);
+    QTest::keyClick(m_spin, Qt::Key_Up);
+    QVERIFY(VelaTest::wheel(m_spin, 1));
+    QCOMPARE(m_editor->Value(), 3);
+    QCOMPARE(m_slider->value(), 3);
+    m_other->setFocus();
+    QTRY_VERIFY(m_other->hasFocus());
+    QCOMPARE(m_log,
+             (QStringList { "EditStarted", "ValueChanged(1)", "ValueChanged(2)", "ValueChanged(3)",
+                            "EditFinished" }));
+}
+
+void tst_QComboSpinBox::wheelNeverMovesSlider()
+{
+    m_editor->SetValue(10);
+    m_log.clear();
+    QVERIFY(!VelaTest::wheel(m_slider, 1));
+    QVERIFY(!VelaTest::wheel(m_spin, 1));
+    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, handleRect(m_slider).center());
+    QVERIFY(!m_slider->hasFocus());
+    QVERIFY(!VelaTest::wheel(m_slider, -3));
+    QCOMPARE(m_slider->value(), 10);
+    QCOMPARE(m_editor->Value(), 10);
+    QVERIFY(m_log.filter(QStringLiteral("ValueChanged")).isEmpty());
+}
+
+void tst_QComboSpinBox::rangeSetters()
+{
+    m_editor->SetMinimum(-10);
+    m_editor->SetMaximum(40);
+    QCOMPARE(m_spin->minimum(), -10);
+    QCOMPARE(m_slider->minimum(), -10);
+    QCOMPARE(m_spin->maximum(), 40);
+    QCOMPARE(m_slider->maximum(), 40);
+    QVERIFY(m_editor->UI()->qtLeftArrowLabel->isHidden());
+    QVERIFY(m_editor->UI()->qtRightArrowLabel->isHidden());
+
+    // Without the independent flag the spin range drives the slider's.
+    m_editor->SetSpinMinimum(-20);
+    QCOMPARE(m_slider->minimum(), -20);
+    QCOMPARE(m_editor->Minimum(), -20);
+
+    m_editor->SetIndependentSpin(true);
+    m_editor->SetSpinMinimum(-30);
+    QCOMPARE(m_slider->minimum(), -20);
+    QCOMPARE(m_editor->Minimum(), -20);
+    QCOMPARE(m_editor->SpinMinimum(), -30);
+    QVERIFY(!m_editor->UI()->qtLeftArrowLabel->isHidden());
+    m_editor->SetMinimum(-35);
+    QCOMPARE(m_spin->minimum(), -30);
+    QVERIFY(m_editor->UI()->qtLeftArrowLabel->isHidden());
+
+    m_editor->SetSingleStep(5);
+    QCOMPARE(m_spin->singleStep(), 5);
+    QCOMPARE(m_slider->singleStep(), 5);
+    QCOMPARE(m_editor->SingleStep(), 5);
+    m_editor->SetPageStep(20);
+    QCOMPARE(m_slider->pageStep(), 20);
+    QCOMPARE(m_editor->PageStep(), 20);
+}
+
+void tst_QComboSpinBox::rangeSettersAreSilent()
+{
+    m_editor->SetValue(60);
+    m_log.clear();
+    m_editor->SetMaximum(20);
+    m_editor->SetSpinMinimum(30);
+    QCOMPARE(m_editor->Value(), 30);
+    QVERIFY(m_log.isEmpty());
+}
+
+void tst_QComboSpinBox::mappings()
+{
+    m_editor->SetValue(20);
+    m_editor->SetSpinToSlider([](int value) { return value * 2; });
+    QCOMPARE(m_slider->maximum(), 198);
+    QCOMPARE(m_slider->minimum(), 0);
+    QCOMPARE(m_slider->value(), 40);
+    m_editor->SetSliderToSpin([](int position) { return position / 2; });
+    m_log.clear();
+
+    COMBO_DRAG_SLIDER_TO(m_slider, 100);
+    QCOMPARE(m_editor->Value(), 50);
+    // The signal carries the slider position as it came.
+    QCOMPARE(m_log.at(m_log.size() - 2), QStringLiteral("ValueChanged(100)"));
+
+    COMBO_TYPE_INTO(m_spin, "70");
+    QCOMPARE(m_slider->value(), 140);
+    QVERIFY(m_log.contains(QStringLiteral("ValueChanged(70)")));
+
+    // With the independent flag, a new mapping moves the slider but leaves its range.
+    m_editor->SetIndependentSpin(true);
+    m_editor->SetSpinToSlider([](int value) { return value + 1; });
+    QCOMPARE(m_slider->maximum(), 198);
+    QCOMPARE(m_slider->value(), 71);
+}
+
+void tst_QComboSpinBox::editedMarking()
+{
+    m_editor->SetDefaultValue(5);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("qtHorizontalSlider"));
+    m_editor->SetValue(5);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
+    m_editor->SetValue(6);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
+    // Changing the default alone does not re-mark.
+    m_editor->SetDefaultValue(6);
+    QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
+    m_editor->MarkUsedSlider();
+    QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
+    // A typed value marks as well.
+    COMBO_TYPE_INTO(m_spin, "7");
+    QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
+}
+
+void tst_QComboSpinBox::markingRepolishes()
+{
+    m_window->setStyleSheet(
+        QStringLiteral("QSlider#EditedWidget { background-color: #82be0f; }"
+                       "QSlider#UneditedWidget { background-color: #505050; }"));
+    m_editor->SetValue(3);
+    QCOMPARE(m_slider->palette().color(m_slider->backgroundRole()), QColor(0x82, 0xbe, 0x0f));
+    m_editor->SetValue(0);
+    QCOMPARE(m_slider->palette().color(m_slider->backgroundRole()), QColor(0x50, 0x50, 0x50));
+}
+
+void tst_QComboSpinBox::doubleClickReset_data()
+{
+    QTest::addColumn<bool>("onLabel");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("resetFlag");
+    QTest::addColumn<bool>("resets");
+    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true << true;
+    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true << true;
+    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << true << false;
+    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << true << false;
+    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << true << false;
+    QTest::newRow("flag off") << true << int(Qt::LeftButton) << true << false << false;
+}
+
+void tst_QComboSpinBox::doubleClickReset()
+{
+    QFETCH(bool, onLabel);
+    QFETCH(int, button);
+    QFETCH(bool, enabled);
+    QFETCH(bool, resetFlag);
+    QFETCH(bool, resets);
+
+    m_editor->SetDefaultValue(5);
+    m_editor->SetResetOnDoubleClick(resetFlag);
+    m_editor->SetValue(30);
+    m_editor->setEnabled(enabled);
+    m_log.clear();
+
+    QWidget *target = onLabel ? static_cast<QWidget *>(m_editor->UI()->qtLabel) : m_slider;
+    doubleClick(target, Qt::MouseButton(button),
+                onLabel ? QPoint() : handleRect(m_slider).center());
+    if (resets) {
+        QCOMPARE(m_log, (QStringList { "ValueChanged(5)", "EditFinished" }));
+        QCOMPARE(m_editor->Value(), 5);
+        QCOMPARE(m_slider->value(), 5);
+        QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
+    } else {
+        QVERIFY(!m_log.contains(QStringLiteral("ValueChanged(5)")));
+        QVERIFY(!m_log.contains(QStringLiteral("EditFinished")));
+        QCOMPARE(m_editor->Value(), 30);
+    }
+    if (resetFlag && enabled && !onLabel)
+        QVERIFY(!m_slider->isSliderDown());
+}
+
+void tst_QComboSpinBox::labelOrientationIsStoredOnly()
+{
+    QLayout *before = m_editor->layout();
+    const QRect label = m_editor->UI()->qtLabel->geometry();
+    m_editor->setLabelOrientation(Qt::Horizontal);
+    QCOMPARE(m_editor->labelOrientation(), Qt::Horizontal);
+    QCOMPARE(m_editor->property("labelOrientation").value<Qt::Orientation>(), Qt::Horizontal);
+    QCOMPARE(m_editor->layout(), before);
+    QApplication::processEvents();
+    QCOMPARE(m_editor->UI()->qtLabel->geometry(), label);
+}
+
+void tst_QComboSpinBox::forwardedProperties_data()
+{
+    QTest::addColumn<QString>("property");
+    QTest::addColumn<QString>("child");
+    QTest::addColumn<QString>("childProperty");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("text") << "text"
+                          << "label"
+                          << "text" << QVariant(QStringLiteral("Weight"));
+    QTest::newRow("textFormat") << "textFormat"
+                                << "label"
+                                << "textFormat" << QVariant::fromValue(Qt::RichText);
+    QTest::newRow("scaledContents") << "scaledContents"
+                                    << "label"
+                                    << "scaledContents" << QVariant(true);
+    QTest::newRow("wordWrap") << "wordWrap"
+                              << "label"
+                              << "wordWrap" << QVariant(true);
+    QTest::newRow("labelName") << "labelName"
+                               << "label"
+                               << "objectName" << QVariant(QStringLiteral("captionLabel"));
+    QTest::newRow("wrapping") << "wrapping"
+                              << "spin"
+                              << "wrapping" << QVariant(true);
+    QTest::newRow("frame") << "frame"
+                           << "spin"
+                           << "frame" << QVariant(false);
+    QTest::newRow("alignment") << "alignment"
+                               << "spin"
+                               << "alignment" << QVariant::fromValue(Qt::Alignment(Qt::AlignRight));
+    QTest::newRow("readOnly") << "readOnly"
+                              << "spin"
+                              << "readOnly" << QVariant(true);
+    QTest::newRow("buttonSymbols")
+        << "buttonSymbols"
+        << "spin"
+        << "buttonSymbols" << QVariant::fromValue(QAbstractSpinBox::NoButtons);
+    QTest::newRow("specialValueText") << "specialValueText"
+                                      << "spin"
+                                      << "specialValueText" << QVariant(QStringLiteral("auto"));
+    QTest::newRow("accelerated") << "accelerated"
+                                 << "spin"
+                                 << "accelerated" << QVariant(true);
+    QTest::newRow("correctionMode")
+        << "correctionMode"
+        << "spin"
+        << "correctionMode" << QVariant::fromValue(QAbstractSpinBox::CorrectToNearestValue);
+    QTest::newRow("keyboardTracking") << "keyboardTracking"
+                                      << "spin"
+                                      << "keyboardTracking" << QVariant(true);
+    QTest::newRow("showGroupSeparator") << "showGroupSeparator"
+                                        << "spin"
+                                        << "showGroupSeparator" << QVariant(true);
+    QTest::newRow("tickPosition") << "tickPosition"
+                                  << "slider"
+                                  << "tickPosition" << QVariant::fromValue(QSlider::TicksBelow);
+    QTest::newRow("tickInterval") << "tickInterval"
+                                  << "slider"
+                                  << "tickInterval" << QVariant(7);
+    QTest::newRow("tracking") << "tracking"
+                              << "slider"
+                              << "tracking" << QVariant(false);
+    QTest::newRow("orientation") << "orientation"
+                                 << "slider"
+                                 << "orientation" << QVariant::fromValue(Qt::Vertical);
+    QTest::newRow("invertedAppearance") << "invertedAppearance"
+                                        << "slider"
+                                        << "invertedAppearance" << QVariant(true);
+    QTest::newRow("invertedControls") << "invertedControls"
+                                      << "slider"
+                                      << "invertedControls" << QVariant(true);
+    QTest::newRow("sliderDown") << "sliderDown"
+                                << "slider"
+                                << "sliderDown" << QVariant(true);
+}
+
+void tst_QComboSpinBox::forwardedProperties()
+{
+    QFETCH(QString, property);
+    QFETCH(QString, child);
+    QFETCH(QString, childProperty);
+    QFETCH(QVariant, value);
+
+    QObject *target = child == QLatin1String("label")
+        ? static_cast<QObject *>(m_editor->UI()->qtLabel)
+        : child == QLatin1String("spin") ? static_cast<QObject *>(m_spin)
+                                         : m_slider;
+    const QByteArray name = property.toLatin1();
+    const QByteArray childName = childProperty.toLatin1();
+    QVERIFY(m_editor->property(name) != value);
+    QVERIFY(m_editor->setProperty(name, value));
+    QCOMPARE(target->property(childName), m_editor->property(name));
+    QVERIFY(target->property(childName) == value);
+}
+
+void tst_QComboSpinBox::arrowImages()
+{
+    {
+        CurrentFolder folder;
+        QVERIFY(folder.write(QStringLiteral("left.svg"), arrowSvg(10, "10,0 0,5 10,10")));
+        // A file claiming an enormous picture is refused rather than allocated.
+        QVERIFY(folder.write(QStringLiteral("right.svg"), arrowSvg(60000, "0,0 10,5 0,10")));
+        QComboSpinBox editor;
+        QVERIFY(!editor.UI()->qtLeftArrowLabel->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(editor.UI()->qtRightArrowLabel->pixmap(Qt::ReturnByValue).isNull());
+    }
+    {
+        CurrentFolder empty;
+        QComboSpinBox editor;
+        QVERIFY(editor.UI()->qtLeftArrowLabel->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(editor.UI()->qtRightArrowLabel->pixmap(Qt::ReturnByValue).isNull());
+    }
+}
+
+VELA_TEST_CLASS(tst_QComboSpinBox)
+#include "tst_QComboSpinBox.moc"
