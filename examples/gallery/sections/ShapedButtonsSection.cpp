@@ -57,6 +57,8 @@ QTransToolBtn *regionButton(QWidget *parent, const QString &name, const QRect &g
     button->setGeometry(geometry);
     button->setIconSize(geometry.size());
     button->setIcon(regionIcon(geometry.size()));
+    // Moves over the button then reach its container, which repaints the hover images.
+    button->setMouseTracking(true);
     return button;
 }
 
@@ -159,6 +161,7 @@ GALLERY_ENTRY({ 10, "Basic controls", "QTransToolBtn",
                     stateButton->AddStatusPixmap(
                         toolState(QSize(90, 90), QStringLiteral("Smooth")));
                     stateButton->SetCurrState(1);
+                    stateButton->setMouseTracking(true);
                     return panel;
                 } })
 
@@ -232,6 +235,7 @@ GALLERY_ENTRY({ 80, "Lists, containers and layout", "QVelaContainer",
                         button->setCheckable(true);
                         button->setGeometry(10 + i * 66, 5, 80, 80);
                         button->AddStatusPixmap(toolState(QSize(80, 80), tools.at(i)));
+                        button->setMouseTracking(true);
                     }
                     bar->InitBtnMap(true);
                     bar->resize(bar->sizeHint());
