@@ -1,6 +1,8 @@
 #include "VelaWidgetCatalog.h"
 
+#include "QComboLabelButton.h"
 #include "QDialEx.h"
+#include "QIntegerSliderWithRenameButton.h"
 #include "QSbsImageWidget.h"
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
@@ -21,6 +23,10 @@ const QVector<Entry> &Widgets()
         }
         // Host-only widgets.
         list.append({ QStringLiteral("QDialEx"), [] { return new QDialEx; } });
+        list.append({ QStringLiteral("QComboLabelButton"),
+                      [] { return new QComboLabelButton(QStringLiteral("Brow_L")); } });
+        list.append({ QStringLiteral("QIntegerSliderWithRenameButton"),
+                      [] { return new QIntegerSliderWithRenameButton; } });
         list.append({ QStringLiteral("QSbsImageWidget"), [] {
                          auto *slot = new QSbsImageWidget;
                          Vela::CMap<Vela::ESubstanceUiChannel, QString> channels;

@@ -1,0 +1,344 @@
+#include "CKdFKModifyCellWidget.h"
+#include "QComboSpinBox.h"
+#include "QIntegerSliderWithRenameButton.h"
+#include "QKdFKModifyTableManager.h"
+#include "VelaTest.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStyle>
+#include <QStyleOptionSlider>
+#include <QToolButton>
+#include <QtTest>
+
+namespace {
+
+// The cell's signals in the order they arrive, as "started", "value 37", "finished".
+class SessionRecorder : public QObject
+{
+public:
+    explicit SessionRecorder(CKdFKModifyCellWidget *pkCell)
+    {
+        connect(pkCell, &CKdFKModifyCellWidget::SliderEditStarted, this,
+                [this] { kEvents << QStringLiteral("started"); });
+        connect(pkCell, &CKdFKModifyCellWidget::SliderValueChanged, this,
+                [this](int nValue) { kEvents << QStringLiteral("value %1").arg(nValue); });
+        connect(pkCell, &CKdFKModifyCellWidget::SliderEditFinished, this,
+                [this] { kEvents << QStringLiteral("finished"); });
+    }
+
+    QStringList kEvents;
+};
+
+QIntegerSliderWithRenameButton *Wrapper(CKdFKModifyCellWidget &kCell)
+{
+    return kCell.findChild<QIntegerSliderWithRenameButton *>();
+}
+
+QSlider *SliderOf(CKdFKModifyCellWidget &kCell)
+{
+    return kCell.GetSlider()->UI()->qtHorizontalSlider;
+}
+
+QPoint HandleCentre(QSlider *pkSlider)
+{
+    QStyleOptionSlider kOption;
+    kOption.initFrom(pkSlider);
+    kOption.orientation = pkSlider->orientation();
+    kOption.minimum = pkSlider->minimum();
+    kOption.maximum = pkSlider->maximum();
+    kOption.sliderPosition = pkSlider->sliderPosition();
+    kOption.sliderValue = pkSlider->value();
+    kOption.upsideDown = pkSlider->invertedAppearance();
+    kOption.subControls = QStyle::SC_All;
+    return pkSlider->style()
+        ->subControlRect(QStyle::CC_Slider, &kOption, QStyle::SC_SliderHandle, pkSlider)
+        .center();
+}
+
+void SendMouseMove(QWidget *pkWidget, const QPoint &kPos, Qt::MouseButtons eButtons)
+{
+    QMouseEvent kEvent(QEvent::MouseMove, kPos, pkWidget->mapToGlobal(kPos), Qt::NoButton, eButtons,
+                       Qt::NoModifier);
+    QApplication::sendEvent(pkWidget, &kEvent);
+}
+
+} // namespace
+
+class tst_CKdFKModifyCellWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void construction();
+    void setItem();
+    void setItemWithShortOrReversedRanges_data();
+    void setItemWithShortOrReversedRanges();
+    void settersAreSilent();
+    void sliderDragIsOneSession();
+    void sessionRules();
+    void doubleClickToggles_data();
+    void doubleClickToggles();
+    void doubleClickDuringSession();
+    void wheelIsSwallowed();
+    void renameButton();
+};
+
+void tst_CKdFKModifyCellWidget::construction()
+{
+    QWidget kParent;
+    CKdFKModifyCellWidget *pkCell = new CKdFKModifyCellWidget(&kParent);
+    QIntegerSliderWithRenameButton *pkWrapper = Wrapper(*pkCell);
+    QVERIFY(pkWrapper);
+    QCOMPARE(pkWrapper->parentWidget(), pkCell);
+    QCOMPARE(pkCell->layout()->count(), 1);
+    QCOMPARE(pkCell->layout()->spacing(), 0);
+    QCOMPARE(pkCell->layout()->contentsMargins(), QMargins());
+
+    QVERIFY(pkWrapper->GetRenameButton()->isHidden());
+    QCOMPARE(pkCell->GetSlider(), pkWrapper->GetSlider());
+    QCOMPARE(pkCell->GetNameLabel(), pkWrapper->GetNameLabel());
+    QCOMPARE(pkCell->GetNameLabel()->text(), QStringLiteral("name"));
+
+    QComboSpinBox *pkCombo = pkCell->GetSlider();
+    QVERIFY(pkCombo->IndependentSpin());
+    QCOMPARE(pkCombo->SingleStep(), 1);
+    QCOMPARE(SliderOf(*pkCell)->singleStep(), 1);
+    QVERIFY(!pkCombo->UI()->qtLabel->isHidden());
+    QCOMPARE(pkCombo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(pkCombo->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+
+    // The wrapper's own start: 50 in -50..100.
+    QCOMPARE(pkCell->GetValue(), 50);
+    QCOMPARE(pkCell->GetMinimum(), -50);
+    QCOMPARE(pkCell->GetMaximum(), 100);
+    QCOMPARE(pkCell->GetID(), 0);
+    int nID = -1;
+    QCOMPARE(pkCell->GetWeightWithID(nID), 0);
+    QCOMPARE(nID, 0);
+    QVERIFY(!pkCell->IsEditing());
+}
+
+void tst_CKdFKModifyCellWidget::setItem()
+{
+    QKdFKModifyTableManager kTable;
+    CKdFKModifyCellWidget kCell;
+    QSignalSpy kComboSpy(kCell.GetSlider(), &QComboSpinBox::ValueChanged);
+    SessionRecorder kRecorder(&kCell);
+
+    kCell.SetItem(7, 150, QStringLiteral("Smile L"), { 0, 100 }, { -50, 200 }, &kTable);
+
+    // The value goes in first, into the old range up to 100, before the ranges widen.
+    QCOMPARE(kCell.GetValue(), 100);
+    QCOMPARE(kCell.GetMinimum(), 0);
+    QCOMPARE(kCell.GetMaximum(), 100);
+    QCOMPARE(kCell.GetSpinMinimum(), -50);
+    QCOMPARE(kCell.GetSpinMaximum(), 200);
+    QCOMPARE(kCell.GetSlider()->text(), QStringLiteral("Smile L"));
+    QCOMPARE(kCell.GetNameLabel()->text(), QStringLiteral("name"));
+    QCOMPARE(kCell.GetID(), 7);
+    int nID = 0;
+    kCell.GetWeightWithID(nID);
+    QCOMPARE(nID, 7);
+    QCOMPARE(kComboSpy.count(), 0);
+    QVERIFY(kRecorder.kEvents.isEmpty());
+
+    // The spin box reaches past the slider's end: the right arrow says so.
+    QVERIFY(!kCell.GetSlider()->UI()->qtRightArrowLabel->isHidden());
+    QVERIFY(!kCell.GetSlider()->UI()->qtLeftArrowLabel->isHidden());
+}
+
+void tst_CKdFKModifyCellWidget::setItemWithShortOrReversedRanges_data()
+{
+    QTest::addColumn<QVector<int>>("kSlider");
+    QTest::addColumn<QVector<int>>("kSpin");
+    QTest::addColumn<int>("nMinimum");
+    QTest::addColumn<int>("nMaximum");
+    QTest::addColumn<int>("nSpinMinimum");
+    QTest::addColumn<int>("nSpinMaximum");
+
+    QTest::newRow("empty lists keep the ranges")
+        << QVector<int>() << QVector<int>() << -50 << 100 << -50 << 100;
+    QTest::newRow("minimum only") << QVector<int>({ 10 }) << QVector<int>({ -20 }) << 10 << 100
+                                  << -20 << 100;
+    QTest::newRow("reversed pairs are put in order")
+        << QVector<int>({ 100, 0 }) << QVector<int>({ 150, -150 }) << 0 << 100 << -150 << 150;
+    QTest::newRow("extra elements ignored")
+        << QVector<int>({ 1, 2, 3 }) << QVector<int>({ -1, 5, 9 }) << 1 << 2 << -1 << 5;
+}
+
+void tst_CKdFKModifyCellWidget::setItemWithShortOrReversedRanges()
+{
+    QFETCH(QVector<int>, kSlider);
+    QFETCH(QVector<int>, kSpin);
+
+    CKdFKModifyCellWidget kCell;
+    kCell.SetItem(3, 0, QStringLiteral("Blink"),
+                  Vela::CArrayList<int>(kSlider.cbegin(), kSlider.cend()),
+                  Vela::CArrayList<int>(kSpin.cbegin(), kSpin.cend()), nullptr);
+    QTEST(kCell.GetMinimum(), "nMinimum");
+    QTEST(kCell.GetMaximum(), "nMaximum");
+    QTEST(kCell.GetSpinMinimum(), "nSpinMinimum");
+    QTEST(kCell.GetSpinMaximum(), "nSpinMaximum");
+    QCOMPARE(kCell.GetID(), 3);
+}
+
+void tst_CKdFKModifyCellWidget::settersAreSilent()
+{
+    CKdFKModifyCellWidget kCell;
+    QSignalSpy kComboSpy(kCell.GetSlider(), &QComboSpinBox::ValueChanged);
+    SessionRecorder kRecorder(&kCell);
+
+    kCell.SetSpinMinimum(-200);
+    kCell.SetSpinMaximum(200);
+    kCell.SetMinimum(-100);
+    kCell.SetMaximum(100);
+    kCell.SetValue(150);
+    QCOMPARE(kCell.GetValue(), 150);
+    QCOMPARE(SliderOf(kCell)->value(), 100);
+    QCOMPARE(kCell.GetMinimum(), -100);
+    QCOMPARE(kCell.GetMaximum(), 100);
+    QCOMPARE(kCell.GetSpinMinimum(), -200);
+    QCOMPARE(kCell.GetSpinMaximum(), 200);
+    QCOMPARE(kComboSpy.count(), 0);
+    QVERIFY(kRecorder.kEvents.isEmpty());
+    QVERIFY(!kCell.IsEditing());
+}
+
+void tst_CKdFKModifyCellWidget::sliderDragIsOneSession()
+{
+    CKdFKModifyCellWidget kCell;
+    kCell.SetItem(4, 0, QStringLiteral("Jaw Open"), { 0, 100 }, { 0, 100 }, nullptr);
+    kCell.resize(400, 70);
+    kCell.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&kCell));
+    SessionRecorder kRecorder(&kCell);
+
+    QSlider *pkSlider = SliderOf(kCell);
+    const QPoint kStart = HandleCentre(pkSlider);
+    QTest::mousePress(pkSlider, Qt::LeftButton, Qt::NoModifier, kStart);
+    QVERIFY(kCell.IsEditing());
+    SendMouseMove(pkSlider, kStart + QPoint(pkSlider->width() / 4, 0), Qt::LeftButton);
+    SendMouseMove(pkSlider, kStart + QPoint(pkSlider->width() / 2, 0), Qt::LeftButton);
+    QTest::mouseRelease(pkSlider, Qt::LeftButton, Qt::NoModifier,
+                        kStart + QPoint(pkSlider->width() / 2, 0));
+
+    QVERIFY(kRecorder.kEvents.size() >= 4);
+    QCOMPARE(kRecorder.kEvents.first(), QStringLiteral("started"));
+    QCOMPARE(kRecorder.kEvents.last(), QStringLiteral("finished"));
+    QCOMPARE(kRecorder.kEvents.count(QStringLiteral("started")), 1);
+    QCOMPARE(kRecorder.kEvents.count(QStringLiteral("finished")), 1);
+    QCOMPARE(kRecorder.kEvents.at(kRecorder.kEvents.size() - 2),
+             QStringLiteral("value %1").arg(kCell.GetValue()));
+    QVERIFY(kCell.GetValue() > 0);
+    QVERIFY(!kCell.IsEditing());
+}
+
+void tst_CKdFKModifyCellWidget::sessionRules()
+{
+    CKdFKModifyCellWidget kCell;
+    SessionRecorder kRecorder(&kCell);
+
+    kCell.OnSliderEditFinished(); // nothing to finish
+    kCell.OnSliderValueChanged(12); // a change outside a session opens one
+    kCell.OnSliderEditStarted(); // already open
+    kCell.OnSliderValueChanged(13);
+    QVERIFY(kCell.IsEditing());
+    kCell.OnSliderEditFinished();
+    kCell.OnSliderEditFinished();
+    QVERIFY(!kCell.IsEditing());
+    kCell.OnSliderEditStarted();
+
+    QCOMPARE(kRecorder.kEvents,
+             QStringList({ "started", "value 12", "value 13", "finished", "started" }));
+}
+
+void tst_CKdFKModifyCellWidget::doubleClickToggles_data()
+{
+    QTest::addColumn<int>("nBefore");
+    QTest::addColumn<int>("nAfter");
+    QTest::newRow("0 -> 100") << 0 << 100;
+    QTest::newRow("100 -> 0") << 100 << 0;
+    QTest::newRow("37 -> 0") << 37 << 0;
+    QTest::newRow("-20 -> 0") << -20 << 0;
+}
+
+void tst_CKdFKModifyCellWidget::doubleClickToggles()
+{
+    QFETCH(int, nBefore);
+    QFETCH(int, nAfter);
+
+    CKdFKModifyCellWidget kCell;
+    kCell.SetItem(0, 0, QStringLiteral("Smile"), { -50, 100 }, { -50, 150 }, nullptr);
+    kCell.SetValue(nBefore);
+    QSignalSpy kComboSpy(kCell.GetSlider(), &QComboSpinBox::ValueChanged);
+    SessionRecorder kRecorder(&kCell);
+
+    // On the wrapper's name label, which passes the double-click up to the cell.
+    QTest::mouseDClick(kCell.GetNameLabel(), Qt::LeftButton);
+
+    QCOMPARE(kCell.GetValue(), nAfter);
+    QCOMPARE(kRecorder.kEvents,
+             QStringList({ "started", QStringLiteral("value %1").arg(nAfter), "finished" }));
+    QCOMPARE(kComboSpy.count(), 0);
+    QVERIFY(!kCell.IsEditing());
+    QVERIFY(!kCell.GetSlider()->signalsBlocked());
+}
+
+void tst_CKdFKModifyCellWidget::doubleClickDuringSession()
+{
+    CKdFKModifyCellWidget kCell;
+    kCell.SetItem(0, 0, QStringLiteral("Smile"), { 0, 100 }, { 0, 100 }, nullptr);
+    SessionRecorder kRecorder(&kCell);
+    kCell.OnSliderEditStarted();
+
+    QMouseEvent kEvent(QEvent::MouseButtonDblClick, QPoint(5, 5), Qt::LeftButton, Qt::LeftButton,
+                       Qt::NoModifier);
+    QApplication::sendEvent(&kCell, &kEvent);
+
+    QCOMPARE(kRecorder.kEvents, QStringList({ "started", "value 100", "finished" }));
+    QVERIFY(!kCell.IsEditing());
+}
+
+void tst_CKdFKModifyCellWidget::wheelIsSwallowed()
+{
+    CKdFKModifyCellWidget kCell;
+    kCell.SetItem(0, 40, QStringLiteral("Smile"), { 0, 100 }, { 0, 100 }, nullptr);
+    kCell.resize(400, 70);
+    kCell.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&kCell));
+    SessionRecorder kRecorder(&kCell);
+
+    VelaTest::wheel(Wrapper(kCell), 3);
+    VelaTest::wheel(Wrapper(kCell), -3);
+    VelaTest::wheel(SliderOf(kCell), 2);
+    QCOMPARE(kCell.GetValue(), 40);
+    QCOMPARE(SliderOf(kCell)->value(), 40);
+    QVERIFY(kRecorder.kEvents.isEmpty());
+
+    // The filter only stops the wheel: other events reach the wrapper as before.
+    QEvent kOther(QEvent::ToolTip);
+    QVERIFY(!kCell.eventFilter(Wrapper(kCell), &kOther));
+    QWheelEvent kWheel(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, 120), Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
+    QVERIFY(kCell.eventFilter(Wrapper(kCell), &kWheel));
+}
+
+void tst_CKdFKModifyCellWidget::renameButton()
+{
+    CKdFKModifyCellWidget kCell;
+    SessionRecorder kRecorder(&kCell);
+    kCell.SetRenameButtonVisible(true);
+    QToolButton *pkButton = Wrapper(kCell)->GetRenameButton();
+    QVERIFY(!pkButton->isHidden());
+    QTest::mouseClick(pkButton, Qt::LeftButton);
+    QVERIFY(kRecorder.kEvents.isEmpty());
+    kCell.SetRenameButtonVisible(false);
+    QVERIFY(pkButton->isHidden());
+}
+
+VELA_TEST_CLASS(tst_CKdFKModifyCellWidget)
+#include "tst_CKdFKModifyCellWidget.moc"

@@ -1,0 +1,489 @@
+#include "QKdFKTemplateTableManager.h"
+#include "VelaTest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+#include <QPainter>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QString kSampleFolder = QStringLiteral(VELA_TEST_DATA_DIR "/facial/templates");
+const QRgb kFrameColor = qRgb(0x82, 0xbe, 0x0f);
+
+// Exposes the view options the table paints its items with.
+class ProbeTemplateTable : public QKdFKTemplateTableManager
+{
+public:
+    using QKdFKTemplateTableManager::QKdFKTemplateTableManager;
+    using QKdFKTemplateTableManager::viewOptions;
+};
+
+void WriteFile(const QString &strPath, const QByteArray &kBytes)
+{
+    QFile kFile(strPath);
+    QVERIFY(kFile.open(QIODevice::WriteOnly));
+    kFile.write(kBytes);
+}
+
+// A template file plus, unless told otherwise, a square thumbnail of one colour.
+void AddTemplate(const QDir &kFolder, const QString &strFile, const QColor &kColor = Qt::blue)
+{
+    WriteFile(kFolder.filePath(strFile), "template");
+    if (!kColor.isValid())
+        return;
+    kFolder.mkpath(QStringLiteral("Icons"));
+    const int nDot = strFile.lastIndexOf(QLatin1Char('.'));
+    QImage kThumbnail(40, 40, QImage::Format_ARGB32);
+    kThumbnail.fill(kColor);
+    QVERIFY(kThumbnail.save(
+        kFolder.filePath(QStringLiteral("Icons/") + strFile.left(nDot) + QStringLiteral(".png"))));
+}
+
+// The PNG chunk checksum (CRC-32, polynomial 0xedb88320), so that a patched header stays valid.
+quint32 PngCrc(const QByteArray &kBytes)
+{
+    quint32 uCrc = 0xffffffffu;
+    for (const char cByte : kBytes) {
+        uCrc ^= quint8(cByte);
+        for (int nBit = 0; nBit < 8; ++nBit)
+            uCrc = (uCrc >> 1) ^ (0xedb88320u & (0u - (uCrc & 1u)));
+    }
+    return ~uCrc;
+}
+
+QStringList Captions(QKdFKTemplateTableManager &kTable)
+{
+    QStringList kCaptions;
+    for (int nRow = 0; nRow < kTable.rowCount(); ++nRow) {
+        for (int nColumn = 0; nColumn < kTable.columnCount(); ++nColumn)
+            kCaptions << kTable.GetSelectedExpTmpName(nRow, nColumn);
+    }
+    return kCaptions;
+}
+
+QImage IconImage(QKdFKTemplateTableManager &kTable, int nRow, int nColumn, const QSize &kSize)
+{
+    const QTableWidgetItem *pkItem = kTable.item(nRow, nColumn);
+    return pkItem ? pkItem->icon().pixmap(kSize).toImage().convertToFormat(QImage::Format_ARGB32)
+                  : QImage();
+}
+
+} // namespace
+
+class tst_QKdFKTemplateTableManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void construction();
+    void initManager();
+    void sampleFolder();
+    void naturalOrder();
+    void gridLimits_data();
+    void gridLimits();
+    void readBackOutsideTemplates();
+    void noTemplates_data();
+    void noTemplates();
+    void templateWithoutThumbnail();
+    void wideThumbnailKeepsProportions();
+    void badThumbnails_data();
+    void badThumbnails();
+    void unusualFileNames();
+    void missingFrameUsesThumbnail();
+    void rebuildReplacesGrid();
+    void withoutColumnLimit();
+    void hostNarrowedColumns();
+    void thumbnailAboveCaption();
+    void userPicksTemplate();
+};
+
+void tst_QKdFKTemplateTableManager::construction()
+{
+    QWidget kParent;
+    QKdFKTemplateTableManager *pkTable = new QKdFKTemplateTableManager(&kParent);
+    QCOMPARE(pkTable->parentWidget(), &kParent);
+    QCOMPARE(pkTable->GetLimitColNum(), 0);
+    QCOMPARE(pkTable->columnCount(), 0);
+    QCOMPARE(pkTable->rowCount(), 0);
+    QVERIFY(pkTable->styleSheet().isEmpty());
+}
+
+void tst_QKdFKTemplateTableManager::initManager()
+{
+    QKdFKTemplateTableManager kTable;
+    QVERIFY(kTable.InitManager(4, 80, 90));
+    QCOMPARE(kTable.GetLimitColNum(), 4);
+    QCOMPARE(kTable.columnCount(), 4);
+    QCOMPARE(kTable.styleSheet(), QStringLiteral("QTableWidget::item{ padding-top: 9px }"));
+
+    // A negative limit is no limit at all: nothing to lay out, nothing to crash on.
+    QVERIFY(kTable.InitManager(-3, -1, -1));
+    QCOMPARE(kTable.GetLimitColNum(), 0);
+    QCOMPARE(kTable.columnCount(), 0);
+}
+
+void tst_QKdFKTemplateTableManager::sampleFolder()
+{
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(3, 62, 62);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QStringLiteral("ignored"), 2));
+    QCOMPARE(kTable.rowCount(), 2);
+    QCOMPARE(kTable.columnCount(), 3);
+    QCOMPARE(
+        Captions(kTable),
+        QStringList({ "Brow Raise 1", "Brow Raise 2", "Brow Raise 10", "Jaw.Open", "Smile", "" }));
+
+    const QTableWidgetItem *pkItem = kTable.item(0, 0);
+    QVERIFY(pkItem);
+    QCOMPARE(pkItem->flags(), Qt::ItemIsSelectable | Qt::ItemIsUserCheckable | Qt::ItemIsEnabled);
+    QCOMPARE(pkItem->textAlignment(), int(Qt::AlignHCenter));
+    QCOMPARE(pkItem->icon().availableSizes(), QList<QSize>({ QSize(62, 62) }));
+
+    const QTableWidgetItem *pkInert = kTable.item(1, 2);
+    QVERIFY(pkInert);
+    QCOMPARE(pkInert->flags(), Qt::NoItemFlags);
+    QVERIFY(pkInert->icon().isNull());
+
+    // The 32 x 32 face is stretched to 60 x 60 inside the one-pixel frame of the 62 x 62 outline.
+    QImage kThumbnail;
+    QVERIFY(kThumbnail.load(kSampleFolder + QStringLiteral("/Icons/Smile.png")));
+    const QImage kIcon = IconImage(kTable, 1, 1, QSize(62, 62));
+    QCOMPARE(kIcon.size(), QSize(62, 62));
+    QCOMPARE(kIcon.pixel(0, 0), kFrameColor);
+    QCOMPARE(kIcon.pixel(61, 61), kFrameColor);
+    QCOMPARE(qAlpha(kIcon.pixel(1, 1)), 0); // the face's transparent corner
+    const QColor kFace = kThumbnail.pixelColor(16, 5);
+    const QColor kShown = kIcon.pixelColor(1 + 30, 1 + 10);
+    QVERIFY2(qAbs(kFace.red() - kShown.red()) < 8 && qAbs(kFace.green() - kShown.green()) < 8
+                 && qAbs(kFace.blue() - kShown.blue()) < 8,
+             qPrintable(kShown.name()));
+}
+
+void tst_QKdFKTemplateTableManager::naturalOrder()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    for (const char *pcName : { "Take 10.exp", "Take 2.exp", "Take 1.exp", "Blink.exp" })
+        AddTemplate(kFolder, QString::fromLatin1(pcName));
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(4, 32, 32);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+    QCOMPARE(Captions(kTable), QStringList({ "Blink", "Take 1", "Take 2", "Take 10" }));
+}
+
+void tst_QKdFKTemplateTableManager::gridLimits_data()
+{
+    QTest::addColumn<int>("nColumns");
+    QTest::addColumn<int>("nRows");
+    QTest::addColumn<int>("nFiles");
+    QTest::addColumn<int>("nShown");
+
+    QTest::newRow("3x2, 8 files") << 3 << 2 << 8 << 6;
+    QTest::newRow("3x2, 6 files") << 3 << 2 << 6 << 6;
+    QTest::newRow("3x2, 4 files") << 3 << 2 << 4 << 4;
+    QTest::newRow("1x3, 5 files") << 1 << 3 << 5 << 3;
+    QTest::newRow("4x0, 5 files") << 4 << 0 << 5 << 0;
+    QTest::newRow("4x-2, 5 files") << 4 << -2 << 5 << 0;
+}
+
+void tst_QKdFKTemplateTableManager::gridLimits()
+{
+    QFETCH(int, nColumns);
+    QFETCH(int, nRows);
+    QFETCH(int, nFiles);
+    QFETCH(int, nShown);
+
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    QStringList kExpected;
+    for (int i = 1; i <= nFiles; ++i) {
+        AddTemplate(kFolder, QStringLiteral("Key %1.exp").arg(i));
+        if (i <= nShown)
+            kExpected << QStringLiteral("Key %1").arg(i);
+    }
+    const int nRowCount = qMax(0, nRows);
+    while (kExpected.size() < nRowCount * nColumns)
+        kExpected << QString();
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(nColumns, 16, 16);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), nRows));
+    QCOMPARE(kTable.rowCount(), nRowCount);
+    QCOMPARE(kTable.columnCount(), nColumns);
+    QCOMPARE(Captions(kTable), kExpected);
+}
+
+void tst_QKdFKTemplateTableManager::readBackOutsideTemplates()
+{
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(4, 32, 32);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 2));
+    QCOMPARE(kTable.GetSelectedExpTmpName(0, 3), QStringLiteral("Jaw.Open"));
+    QCOMPARE(kTable.GetSelectedExpTmpName(1, 1), QString()); // inert cell
+    QCOMPARE(kTable.GetSelectedExpTmpName(2, 0), QString());
+    QCOMPARE(kTable.GetSelectedExpTmpName(0, 4), QString());
+    QCOMPARE(kTable.GetSelectedExpTmpName(-1, -1), QString());
+}
+
+void tst_QKdFKTemplateTableManager::noTemplates_data()
+{
+    QTest::addColumn<QString>("strCase");
+    QTest::newRow("missing folder") << "missing";
+    QTest::newRow("empty folder") << "empty";
+    QTest::newRow("only subfolders") << "subfolders";
+    QTest::newRow("a file, not a folder") << "file";
+    QTest::newRow("empty path") << "";
+}
+
+void tst_QKdFKTemplateTableManager::noTemplates()
+{
+    QFETCH(QString, strCase);
+
+    QTemporaryDir kDir;
+    QString strFolder = kDir.filePath(QStringLiteral("templates"));
+    if (strCase == QLatin1String("empty")) {
+        QVERIFY(QDir().mkpath(strFolder));
+    } else if (strCase == QLatin1String("subfolders")) {
+        QVERIFY(QDir().mkpath(strFolder + QStringLiteral("/Icons")));
+        QVERIFY(QDir().mkpath(strFolder + QStringLiteral("/Smile.exp")));
+    } else if (strCase == QLatin1String("file")) {
+        WriteFile(strFolder, "not a folder");
+    } else if (strCase.isEmpty()) {
+        strFolder.clear();
+    }
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(3, 32, 32);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 1));
+    QVERIFY(!kTable.UpdateTable(strFolder, QString(), 2));
+
+    // The grid of the requested size remains, every cell inert.
+    QCOMPARE(kTable.rowCount(), 2);
+    for (int nRow = 0; nRow < 2; ++nRow) {
+        for (int nColumn = 0; nColumn < 3; ++nColumn) {
+            const QTableWidgetItem *pkItem = kTable.item(nRow, nColumn);
+            QVERIFY(pkItem);
+            QCOMPARE(pkItem->flags(), Qt::NoItemFlags);
+            QVERIFY(pkItem->text().isEmpty());
+        }
+    }
+}
+
+void tst_QKdFKTemplateTableManager::templateWithoutThumbnail()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    AddTemplate(kFolder, QStringLiteral("Blink.exp"), QColor());
+    AddTemplate(kFolder, QStringLiteral("Smile.exp"), Qt::red);
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(2, 62, 62);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+    QCOMPARE(Captions(kTable), QStringList({ "Blink", "Smile" }));
+
+    const QImage kEmptyFrame = IconImage(kTable, 0, 0, QSize(62, 62));
+    QCOMPARE(kEmptyFrame.pixel(0, 0), kFrameColor);
+    QCOMPARE(qAlpha(kEmptyFrame.pixel(31, 31)), 0);
+
+    const QImage kFilled = IconImage(kTable, 0, 1, QSize(62, 62));
+    QCOMPARE(kFilled.pixel(0, 0), kFrameColor);
+    QCOMPARE(kFilled.pixel(1, 1), qRgb(255, 0, 0));
+    QCOMPARE(kFilled.pixel(60, 60), qRgb(255, 0, 0));
+}
+
+void tst_QKdFKTemplateTableManager::wideThumbnailKeepsProportions()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    WriteFile(kFolder.filePath(QStringLiteral("Wide.exp")), "template");
+    kFolder.mkpath(QStringLiteral("Icons"));
+    QImage kWide(80, 40, QImage::Format_ARGB32);
+    kWide.fill(Qt::red);
+    QVERIFY(kWide.save(kFolder.filePath(QStringLiteral("Icons/Wide.png"))));
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(1, 62, 62);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+
+    // 80 x 40 becomes 60 x 30 at (1, 1): the lower half of the frame stays empty.
+    const QImage kIcon = IconImage(kTable, 0, 0, QSize(62, 62));
+    QCOMPARE(kIcon.pixel(1, 1), qRgb(255, 0, 0));
+    QCOMPARE(kIcon.pixel(60, 30), qRgb(255, 0, 0));
+    QCOMPARE(qAlpha(kIcon.pixel(30, 32)), 0);
+    QCOMPARE(qAlpha(kIcon.pixel(30, 60)), 0);
+    QCOMPARE(kIcon.pixel(0, 61), kFrameColor);
+}
+
+void tst_QKdFKTemplateTableManager::badThumbnails_data()
+{
+    QTest::addColumn<QByteArray>("kBytes");
+
+    QTest::newRow("garbage") << QByteArray("\x89PNG\r\n\x1a\n this is not really a png", 34);
+    QTest::newRow("empty file") << QByteArray();
+    QTest::newRow("truncated") << QByteArray("\x89PNG\r\n\x1a\n", 8);
+
+    // A valid one-pixel PNG whose header claims 60000 x 60000 pixels.
+    QImage kPixel(1, 1, QImage::Format_RGB32);
+    kPixel.fill(Qt::green);
+    QByteArray kPng;
+    QBuffer kBuffer(&kPng);
+    kBuffer.open(QIODevice::WriteOnly);
+    kPixel.save(&kBuffer, "PNG");
+    kPng.replace(16, 8, QByteArray::fromHex("0000ea600000ea60"));
+    const quint32 uCrc = PngCrc(kPng.mid(12, 17)); // chunk type and the 13 bytes of IHDR
+    kPng.replace(29, 4, QByteArray::fromHex(QByteArray::number(uCrc, 16).rightJustified(8, '0')));
+    QImageReader kReader(&kBuffer);
+    kBuffer.close();
+    kBuffer.open(QIODevice::ReadOnly);
+    QCOMPARE(kReader.size(), QSize(60000, 60000));
+    QTest::newRow("header claims a huge size") << kPng;
+}
+
+void tst_QKdFKTemplateTableManager::badThumbnails()
+{
+    QFETCH(QByteArray, kBytes);
+
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    AddTemplate(kFolder, QStringLiteral("Bad.exp"), QColor());
+    kFolder.mkpath(QStringLiteral("Icons"));
+    WriteFile(kFolder.filePath(QStringLiteral("Icons/Bad.png")), kBytes);
+    AddTemplate(kFolder, QStringLiteral("Good.exp"), Qt::red);
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(2, 62, 62);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+    QCOMPARE(Captions(kTable), QStringList({ "Bad", "Good" }));
+
+    // The refused thumbnail leaves the frame empty; its neighbour is unaffected.
+    const QImage kBad = IconImage(kTable, 0, 0, QSize(62, 62));
+    QCOMPARE(kBad.pixel(0, 0), kFrameColor);
+    QCOMPARE(qAlpha(kBad.pixel(31, 31)), 0);
+    QCOMPARE(IconImage(kTable, 0, 1, QSize(62, 62)).pixel(31, 31), qRgb(255, 0, 0));
+}
+
+void tst_QKdFKTemplateTableManager::unusualFileNames()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    AddTemplate(kFolder, QString::fromUtf8("Überraschung ä.exp"), Qt::red);
+    AddTemplate(kFolder, QStringLiteral("jaw open.v2.exp"), Qt::green);
+    AddTemplate(kFolder, QStringLiteral("NoExtension"), Qt::blue);
+    AddTemplate(kFolder, QString::fromUtf8("微笑.exp"), Qt::yellow);
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(4, 62, 62);
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+
+    const QStringList kCaptions = Captions(kTable);
+    QCOMPARE(kCaptions.size(), 4);
+    QVERIFY(kCaptions.contains(QString::fromUtf8("Überraschung ä")));
+    QVERIFY(kCaptions.contains(QStringLiteral("jaw open.v2")));
+    QVERIFY(kCaptions.contains(QStringLiteral("NoExtension")));
+    QVERIFY(kCaptions.contains(QString::fromUtf8("微笑")));
+
+    // Every one found its thumbnail through the caption.
+    const QMap<QString, QRgb> kColors = { { QString::fromUtf8("Überraschung ä"), qRgb(255, 0, 0) },
+                                          { QStringLiteral("jaw open.v2"), qRgb(0, 255, 0) },
+                                          { QStringLiteral("NoExtension"), qRgb(0, 0, 255) },
+                                          { QString::fromUtf8("微笑"), qRgb(255, 255, 0) } };
+    for (int nColumn = 0; nColumn < 4; ++nColumn) {
+        const QString strCaption = kTable.GetSelectedExpTmpName(0, nColumn);
+        QCOMPARE(IconImage(kTable, 0, nColumn, QSize(62, 62)).pixel(31, 31),
+                 kColors.value(strCaption));
+    }
+}
+
+void tst_QKdFKTemplateTableManager::missingFrameUsesThumbnail()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    AddTemplate(kFolder, QStringLiteral("Smile.exp"), Qt::red);
+
+    Q_CLEANUP_RESOURCE(kdfk_template_frame);
+    QVERIFY(!QFile::exists(QStringLiteral(":/images/ItemOutline.png")));
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(1, 20, 10);
+    const bool bUpdated = kTable.UpdateTable(kDir.path(), QString(), 1);
+    Q_INIT_RESOURCE(kdfk_template_frame);
+    QVERIFY(bUpdated);
+
+    // The 40 x 40 thumbnail itself, brought to 20 x 10: no frame around it.
+    const QImage kIcon = IconImage(kTable, 0, 0, QSize(20, 10));
+    QCOMPARE(kIcon.size(), QSize(20, 10));
+    QCOMPARE(kIcon.pixel(0, 0), qRgb(255, 0, 0));
+    QCOMPARE(kIcon.pixel(19, 9), qRgb(255, 0, 0));
+}
+
+void tst_QKdFKTemplateTableManager::rebuildReplacesGrid()
+{
+    QTemporaryDir kDir;
+    QDir kFolder(kDir.path());
+    AddTemplate(kFolder, QStringLiteral("Only.exp"));
+
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(3, 32, 32);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 2));
+    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), 1));
+    QCOMPARE(kTable.rowCount(), 1);
+    QCOMPARE(Captions(kTable), QStringList({ "Only", "", "" }));
+}
+
+void tst_QKdFKTemplateTableManager::withoutColumnLimit()
+{
+    // Never initialised, as Designer creates it: the folder is read but nothing can be placed.
+    QKdFKTemplateTableManager kTable;
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 3));
+    QCOMPARE(kTable.rowCount(), 3);
+    QCOMPARE(kTable.columnCount(), 0);
+    QCOMPARE(kTable.GetSelectedExpTmpName(0, 0), QString());
+}
+
+void tst_QKdFKTemplateTableManager::hostNarrowedColumns()
+{
+    // Three templates per row, but the host left only two columns: each row's third is dropped.
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(3, 32, 32);
+    kTable.setColumnCount(2);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 2));
+    QCOMPARE(Captions(kTable),
+             QStringList({ "Brow Raise 1", "Brow Raise 2", "Jaw.Open", "Smile" }));
+}
+
+void tst_QKdFKTemplateTableManager::thumbnailAboveCaption()
+{
+    ProbeTemplateTable kTable;
+    const QStyleOptionViewItem kOption = kTable.viewOptions();
+    QCOMPARE(kOption.decorationAlignment, Qt::Alignment(Qt::AlignCenter));
+    QCOMPARE(kOption.decorationPosition, QStyleOptionViewItem::Top);
+}
+
+void tst_QKdFKTemplateTableManager::userPicksTemplate()
+{
+    QKdFKTemplateTableManager kTable;
+    kTable.InitManager(3, 62, 62);
+    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 2));
+    kTable.resize(400, 300);
+    kTable.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&kTable));
+
+    // A template cell takes the selection; an inert one does not.
+    QTest::mouseClick(kTable.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      kTable.visualItemRect(kTable.item(1, 0)).center());
+    QCOMPARE(kTable.selectedItems().size(), 1);
+    const QTableWidgetItem *pkPicked = kTable.selectedItems().first();
+    QCOMPARE(kTable.GetSelectedExpTmpName(pkPicked->row(), pkPicked->column()),
+             QStringLiteral("Jaw.Open"));
+
+    QTest::mouseClick(kTable.viewport(), Qt::LeftButton, Qt::NoModifier,
+                      kTable.visualItemRect(kTable.item(1, 2)).center());
+    QVERIFY(!kTable.item(1, 2)->isSelected());
+}
+
+VELA_TEST_CLASS(tst_QKdFKTemplateTableManager)
+#include "tst_QKdFKTemplateTableManager.moc"
