@@ -1,0 +1,419 @@
+#include "QTransToolBtn.h"
+#include "QVelaContainer.h"
+#include "VelaTest.h"
+
+#include <QPainter>
+#include <QPointer>
+#include <QtTest>
+
+namespace {
+
+// Delivers presses and releases as a user's mouse does: to the topmost widget under the pointer,
+// the release to the widget that got the press.
+class Mouse
+{
+public:
+    explicit Mouse(QWidget *container)
+        : m_container(container)
+    { }
+
+    void press(const QPoint &pos, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QWidget *child = m_container->childAt(pos);
+        m_target = child ? child : m_container;
+        QTest::mousePress(m_target, button, Qt::NoModifier, m_target->mapFrom(m_container, pos));
+    }
+    void release(const QPoint &pos, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QWidget *target = m_target ? m_target.data() : m_container;
+        QTest::mouseRelease(target, button, Qt::NoModifier, target->mapFrom(m_container, pos));
+        m_target = nullptr;
+    }
+    void click(const QPoint &pos, Qt::MouseButton button = Qt::LeftButton)
+    {
+        press(pos, button);
+        release(pos, button);
+    }
+
+private:
+    QWidget *m_container;
+    QPointer<QWidget> m_target;
+};
+
+// A checkable button showing an ellipse that fills its geometry.
+QTransToolBtn *addButton(QWidget *parent, const QString &name, const QRect &geometry)
+{
+    QPixmap pixmap(geometry.size());
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::darkMagenta);
+    painter.drawEllipse(pixmap.rect());
+    painter.end();
+
+    auto *button = new QTransToolBtn(parent);
+    button->setObjectName(name);
+    button->setCheckable(true);
+    button->setGeometry(geometry);
+    button->setIconSize(geometry.size());
+    button->setIcon(QIcon(pixmap));
+    return button;
+}
+
+// Counts the events that reach QWidget's own handlers.
+class CountingContainer : public QVelaContainer
+{
+public:
+    using QVelaContainer::QVelaContainer;
+    int presses = 0;
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        ++presses;
+        QVelaContainer::mousePressEvent(event);
+    }
+};
+
+// "b" is the first child and lies under "a"; the overlap is x 60..99.
+const QPoint kBoth(80, 50);
+const QPoint kOnlyB(20, 50);
+const QPoint kOnlyA(140, 50);
+const QPoint kBehindTransparentA(62, 4); // b's opaque part, a's transparent corner
+const QPoint kNothing(185, 50);
+
+} // namespace
+
+class tst_QVelaContainer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void defaults();
+    void buttonMapInNameOrder();
+    void overlappingButtonsFirstNameWins();
+    void transparentPartPassesOn();
+    void clickToggles();
+    void pressAndReleaseOnDifferentButtons();
+    void releaseWithoutPress();
+    void exclusiveMode();
+    void exclusiveModeUncheckCurrent();
+    void rightClick();
+    void doubleClick();
+    void hiddenOrDisabledButtonsNeverTakeClicks_data();
+    void hiddenOrDisabledButtonsNeverTakeClicks();
+    void programmaticState();
+    void passOnFlag();
+    void mapIsOnlyAsFreshAsLastInit();
+    void deletedButtonsLeaveTheMap();
+    void styleSheetBackground();
+
+private:
+    void record(QVelaContainer *container);
+
+    CountingContainer *m_container = nullptr;
+    QTransToolBtn *m_a = nullptr;
+    QTransToolBtn *m_b = nullptr;
+    QStringList m_events;
+};
+
+void tst_QVelaContainer::record(QVelaContainer *container)
+{
+    connect(container, &QVelaContainer::BtnClicked,
+            [this](QAbstractButton *button) { m_events << "BtnClicked:" + button->objectName(); });
+    connect(container, &QVelaContainer::BtnRightClicked, [this](QAbstractButton *button) {
+        m_events << "BtnRightClicked:" + button->objectName();
+    });
+    connect(container, &QVelaContainer::ChangeToolBtnState,
+            [this](const QList<QString> &names, const QList<bool> &states) {
+                QStringList changes;
+                for (int i = 0; i < names.size(); ++i)
+                    changes << names.at(i) + (states.value(i) ? "=on" : "=off");
+                m_events << "ChangeToolBtnState:" + changes.join(',');
+            });
+    connect(container, &QVelaContainer::NoBtnClicked, [this] { m_events << "NoBtnClicked"; });
+}
+
+void tst_QVelaContainer::init()
+{
+    m_container = new CountingContainer;
+    m_container->resize(200, 100);
+    m_b = addButton(m_container, QStringLiteral("b"), QRect(0, 0, 100, 100));
+    m_a = addButton(m_container, QStringLiteral("a"), QRect(60, 0, 100, 100));
+    m_container->InitBtnMap(false);
+    m_events.clear();
+    record(m_container);
+    m_container->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_container));
+}
+
+void tst_QVelaContainer::cleanup()
+{
+    delete m_container;
+    m_container = nullptr;
+}
+
+void tst_QVelaContainer::defaults()
+{
+    QVelaContainer container;
+    QVERIFY(container.hasMouseTracking());
+    QList<QTransToolBtn *> buttons;
+    container.GetQTransToolBtns(buttons);
+    QVERIFY(buttons.isEmpty());
+    QVERIFY(!container.setTransToolBtnState(QStringLiteral("a"), true));
+}
+
+void tst_QVelaContainer::buttonMapInNameOrder()
+{
+    QList<QTransToolBtn *> buttons { m_b, m_b, m_b };
+    m_container->GetQTransToolBtns(buttons);
+    QCOMPARE(buttons, QList<QTransToolBtn *>({ m_a, m_b }));
+
+    // A later child with the same name replaces the earlier one.
+    QTransToolBtn *second = addButton(m_container, QStringLiteral("a"), QRect(150, 60, 20, 20));
+    m_container->InitBtnMap(false);
+    m_container->GetQTransToolBtns(buttons);
+    QCOMPARE(buttons, QList<QTransToolBtn *>({ second, m_b }));
+}
+
+void tst_QVelaContainer::overlappingButtonsFirstNameWins()
+{
+    QCOMPARE(m_container->childAt(kBoth), m_a);
+    m_a->stackUnder(m_b); // whichever lies on top, "a" comes first by name
+    QCOMPARE(m_container->childAt(kBoth), m_b);
+    Mouse(m_container).click(kBoth);
+    QVERIFY(m_a->isChecked());
+    QVERIFY(!m_b->isChecked());
+    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on" }));
+}
+
+void tst_QVelaContainer::transparentPartPassesOn()
+{
+    QCOMPARE(m_container->childAt(kBehindTransparentA), m_a);
+    Mouse(m_container).click(kBehindTransparentA);
+    QVERIFY(m_b->isChecked());
+    QVERIFY(!m_a->isChecked());
+    QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on" }));
+}
+
+void tst_QVelaContainer::clickToggles()
+{
+    Mouse mouse(m_container);
+    mouse.click(kOnlyA);
+    mouse.click(kOnlyB);
+    mouse.click(kOnlyA);
+    QVERIFY(!m_a->isChecked());
+    QVERIFY(m_b->isChecked());
+    QCOMPARE(
+        m_events,
+        QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on", "BtnClicked:b",
+                      "ChangeToolBtnState:b=on", "BtnClicked:a", "ChangeToolBtnState:a=off" }));
+}
+
+void tst_QVelaContainer::pressAndReleaseOnDifferentButtons()
+{
+    Mouse mouse(m_container);
+    mouse.press(kOnlyA);
+    mouse.release(kOnlyB);
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked" }));
+    QVERIFY(!m_a->isChecked());
+    QVERIFY(!m_b->isChecked());
+
+    // The press is forgotten: releasing on A afterwards is no click either.
+    QTest::mouseRelease(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked", "NoBtnClicked" }));
+    QVERIFY(!m_a->isChecked());
+}
+
+void tst_QVelaContainer::releaseWithoutPress()
+{
+    Mouse mouse(m_container);
+    mouse.press(kNothing);
+    mouse.release(kOnlyA);
+    mouse.click(kNothing);
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked", "NoBtnClicked" }));
+    QVERIFY(!m_a->isChecked());
+
+    // A press over nothing keeps an earlier press on a button.
+    QTest::mousePress(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
+    QTest::mousePress(m_container, Qt::LeftButton, Qt::NoModifier, kNothing);
+    QTest::mouseRelease(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
+    QVERIFY(m_a->isChecked());
+}
+
+void tst_QVelaContainer::exclusiveMode()
+{
+    m_container->InitBtnMap(true);
+    Mouse mouse(m_container);
+    mouse.click(kOnlyA);
+    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on" }));
+
+    m_events.clear();
+    mouse.click(kOnlyB);
+    QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on,a=off" }));
+    QVERIFY(!m_a->isChecked());
+    QVERIFY(m_b->isChecked());
+
+    m_events.clear();
+    mouse.click(kOnlyA);
+    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on,b=off" }));
+}
+
+void tst_QVelaContainer::exclusiveModeUncheckCurrent()
+{
+    m_container->InitBtnMap(true);
+    Mouse mouse(m_container);
+    mouse.click(kOnlyA);
+    m_events.clear();
+
+    mouse.click(kOnlyA);
+    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=off" }));
+    QVERIFY(!m_a->isChecked());
+
+    // No button is current now: checking another one unchecks nothing.
+    m_events.clear();
+    mouse.click(kOnlyB);
+    QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on" }));
+}
+
+void tst_QVelaContainer::rightClick()
+{
+    m_container->InitBtnMap(true);
+    Mouse mouse(m_container);
+    mouse.click(kOnlyA, Qt::RightButton);
+    QCOMPARE(m_events, QStringList({ "BtnRightClicked:a" }));
+    QVERIFY(!m_a->isChecked());
+
+    m_a->setChecked(true);
+    mouse.click(kOnlyA, Qt::MiddleButton);
+    QVERIFY(m_a->isChecked());
+    mouse.press(kOnlyA, Qt::RightButton);
+    mouse.release(kOnlyB, Qt::RightButton);
+    QCOMPARE(m_events, QStringList({ "BtnRightClicked:a", "BtnRightClicked:a", "NoBtnClicked" }));
+}
+
+void tst_QVelaContainer::doubleClick()
+{
+    QStringList doubles;
+    connect(m_a, &QTransToolBtn::doubleClicked, [&] { doubles << "a:left"; });
+    connect(m_a, &QTransToolBtn::doubleRightClicked, [&] { doubles << "a:right"; });
+    connect(m_b, &QTransToolBtn::doubleClicked, [&] { doubles << "b:left"; });
+
+    QTest::mouseDClick(m_a, Qt::LeftButton, Qt::NoModifier, m_a->mapFrom(m_container, kBoth));
+    QTest::mouseDClick(m_a, Qt::RightButton, Qt::NoModifier, m_a->mapFrom(m_container, kBoth));
+    QTest::mouseDClick(m_a, Qt::LeftButton, Qt::NoModifier,
+                       m_a->mapFrom(m_container, kBehindTransparentA));
+    QTest::mouseDClick(m_container, Qt::LeftButton, Qt::NoModifier, kNothing);
+    QCOMPARE(doubles, QStringList({ "a:left", "a:right", "b:left" }));
+    QVERIFY(m_events.isEmpty());
+}
+
+void tst_QVelaContainer::hiddenOrDisabledButtonsNeverTakeClicks_data()
+{
+    QTest::addColumn<bool>("hide");
+    QTest::newRow("hidden") << true;
+    QTest::newRow("disabled") << false;
+}
+
+void tst_QVelaContainer::hiddenOrDisabledButtonsNeverTakeClicks()
+{
+    QFETCH(bool, hide);
+    if (hide)
+        m_a->hide();
+    else
+        m_a->setEnabled(false);
+
+    // Sent to the container itself, as after the buttons passed them on.
+    QTest::mouseClick(m_container, Qt::LeftButton, Qt::NoModifier, kBoth);
+    QVERIFY(!m_a->isChecked());
+    QVERIFY(m_b->isChecked());
+    QTest::mouseClick(m_container, Qt::LeftButton, Qt::NoModifier, kOnlyA);
+    QTest::mouseClick(m_container, Qt::RightButton, Qt::NoModifier, kOnlyA);
+    QVERIFY(!m_a->isChecked());
+    QCOMPARE(
+        m_events,
+        QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on", "NoBtnClicked", "NoBtnClicked" }));
+}
+
+void tst_QVelaContainer::programmaticState()
+{
+    m_container->InitBtnMap(true);
+    Mouse(m_container).click(kOnlyA);
+    m_events.clear();
+
+    QVERIFY(m_container->setTransToolBtnState(QStringLiteral("b"), true));
+    QVERIFY(m_b->isChecked());
+    QVERIFY(!m_container->setTransToolBtnState(QStringLiteral("nose"), true));
+    QVERIFY(!m_container->setTransToolBtnState(QString(), true));
+    QVERIFY(m_events.isEmpty());
+
+    // "a" is still the current button: clicking "b" off leaves it alone, clicking "b" on again
+    // unchecks "a".
+    Mouse mouse(m_container);
+    mouse.click(kOnlyB);
+    QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=off,a=off" }));
+    QVERIFY(!m_a->isChecked());
+}
+
+void tst_QVelaContainer::passOnFlag()
+{
+    QTest::mousePress(m_container, Qt::LeftButton, Qt::NoModifier, kNothing);
+    QTest::mousePress(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
+    QCOMPARE(m_container->presses, 0);
+
+    m_container->setMessageToChildState(true);
+    QTest::mousePress(m_container, Qt::LeftButton, Qt::NoModifier, kNothing);
+    QTest::mousePress(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
+    QCOMPARE(m_container->presses, 2);
+    QTest::mouseRelease(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
+    QVERIFY(m_a->isChecked()); // still handled first
+}
+
+void tst_QVelaContainer::mapIsOnlyAsFreshAsLastInit()
+{
+    QTransToolBtn *late = addButton(m_container, QStringLiteral("c"), QRect(165, 5, 30, 30));
+    late->show();
+    const QPoint onLate(180, 20);
+    Mouse mouse(m_container);
+    mouse.click(onLate);
+    QVERIFY(!late->isChecked());
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked" }));
+
+    m_container->InitBtnMap(false);
+    mouse.click(onLate);
+    QVERIFY(late->isChecked());
+}
+
+void tst_QVelaContainer::deletedButtonsLeaveTheMap()
+{
+    m_container->InitBtnMap(true);
+    Mouse mouse(m_container);
+    mouse.click(kOnlyA); // "a" is current
+    delete m_a;
+    m_a = nullptr;
+
+    QList<QTransToolBtn *> buttons;
+    m_container->GetQTransToolBtns(buttons);
+    QCOMPARE(buttons, QList<QTransToolBtn *>({ m_b }));
+    QVERIFY(!m_container->setTransToolBtnState(QStringLiteral("a"), true));
+
+    m_events.clear();
+    mouse.click(kOnlyA);
+    mouse.click(kOnlyB);
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked", "BtnClicked:b", "ChangeToolBtnState:b=on" }));
+    QMouseEvent move(QEvent::MouseMove, kOnlyA, m_container->mapToGlobal(kOnlyA), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(m_container, &move);
+}
+
+void tst_QVelaContainer::styleSheetBackground()
+{
+    m_container->setStyleSheet(QStringLiteral("QVelaContainer { background: #1c1c1c; }"));
+    const QImage shot = m_container->grab().toImage();
+    QCOMPARE(shot.pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
+}
+
+VELA_TEST_CLASS(tst_QVelaContainer)
+#include "tst_QVelaContainer.moc"
