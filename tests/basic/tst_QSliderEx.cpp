@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <limits>
+
 // Exposes the handle position that a user grabs.
 class GrabbableSlider : public QSliderEx
 {
@@ -35,6 +37,7 @@ private slots:
     void pagingClickRecords();
     void keyChangeRecordsOnFocusOut();
     void dialRecordsOnlyChanges();
+    void spanOfTwoToThe31IsNarrowed();
 
 private:
     void drag(QWidget *widget, QPoint from, QPoint to);
@@ -166,6 +169,18 @@ void tst_QSliderEx::dialRecordsOnlyChanges()
     QTest::mouseClick(dial, Qt::LeftButton, Qt::NoModifier, top);
     QCOMPARE(dial->value(), afterDrag);
     QCOMPARE(records.count(), 1);
+}
+
+// Qt's styles divide by zero when painting a slider whose span is exactly 2^31.
+void tst_QSliderEx::spanOfTwoToThe31IsNarrowed()
+{
+    m_slider->setRange(std::numeric_limits<int>::min(), 0);
+    QCOMPARE(m_slider->minimum(), std::numeric_limits<int>::min() + 1);
+    QCOMPARE(m_slider->maximum(), 0);
+    m_slider->grab();
+    m_slider->setRange(std::numeric_limits<int>::min(), 199);
+    QCOMPARE(m_slider->minimum(), std::numeric_limits<int>::min());
+    m_slider->grab();
 }
 
 VELA_TEST_CLASS(tst_QSliderEx)

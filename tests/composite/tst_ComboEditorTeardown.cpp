@@ -1,4 +1,5 @@
-// Found by fuzzing: the combo editors must survive being destroyed mid-edit and extreme ranges.
+// Found by fuzzing: the combo editors must survive being destroyed mid-edit (the sanitized suite
+// checks that no call reaches a half-destroyed editor) and extreme ranges.
 #include "QComboDoubleSpinBox.h"
 #include "QComboNonlinearDoubleSpinBox.h"
 #include "QComboSpinBox.h"
@@ -116,19 +117,15 @@ void tst_ComboEditorTeardown::extremeRangesStillPaint()
         QVERIFY(editor->setProperty("value", std::numeric_limits<int>::max()));
     }
     editor->grab();
-    if (!floating) {
-        // The host's full int range is the slider's too; painting it must still work.
-        QCOMPARE(editor->property("value").toInt(), std::numeric_limits<int>::max());
-        return;
+    if (floating) {
+        // A minimum of 0 has no logarithm: the slider reaches down to the smallest integer, and a
+        // maximum of 1 then spans exactly 2^31 positions, which Qt's styles cannot paint.
+        QVERIFY(editor->setProperty("decimals", 2));
+        QVERIFY(editor->setProperty("minimum", 0.0));
+        QVERIFY(editor->setProperty("maximum", 1.0));
+        editor->grab();
     }
-    const QList<QSlider *> sliders = editor->findChildren<QSlider *>();
-    QVERIFY(!sliders.isEmpty());
-    for (QSlider *slider : sliders) {
-        // Positions worked out from values stay within half the int range each way, so that the
-        // style's maximum - minimum cannot overflow.
-        QVERIFY(qint64(slider->maximum()) - qint64(slider->minimum())
-                <= qint64(std::numeric_limits<int>::max()));
-    }
+    QCOMPARE(editor->findChildren<QSlider *>().size(), 1);
 }
 
 VELA_TEST_CLASS(tst_ComboEditorTeardown)

@@ -93,3 +93,14 @@ void QSliderEx::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
 }
+
+void QSliderEx::sliderChange(SliderChange change)
+{
+    // Qt's styles divide by twice the span when painting; a span of exactly 2^31 (such as
+    // INT_MIN to 0, which a logarithmic editor reaches for a minimum of 0) makes that zero.
+    if (change == SliderRangeChange && qint64(maximum()) - qint64(minimum()) == (qint64(1) << 31)) {
+        setMinimum(minimum() + 1);
+        return;
+    }
+    QSlider::sliderChange(change);
+}

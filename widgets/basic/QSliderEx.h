@@ -35,6 +35,7 @@ protected:
     void keyReleaseEvent(QKeyEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void sliderChange(SliderChange change) override;
 
 private:
     // Hides the base setter: use SetValue, which records the value.

@@ -85,10 +85,8 @@ int LogPosition(double dValue, int nDecimals)
 
 int TruncateToPosition(double dValue)
 {
-    // Half the int range each way: QStyle works out slider geometry from maximum - minimum, which
-    // must not overflow.
-    constexpr int kMax = std::numeric_limits<int>::max() / 2;
-    constexpr int kMin = -kMax;
+    constexpr int kMin = std::numeric_limits<int>::min();
+    constexpr int kMax = std::numeric_limits<int>::max();
     if (std::isnan(dValue) || dValue <= double(kMin))
         return kMin;
     if (dValue >= double(kMax))
