@@ -25,6 +25,16 @@ static bool isLibraryClass(const QMetaObject *mo)
     return QByteArray(info.dli_fname).contains("VelaQtCustomWidgets");
 }
 
+static bool isGeometric(const char *name)
+{
+    const QByteArray lower = QByteArray(name).toLower();
+    for (const char *word : { "spacing", "width", "height", "size", "margin", "indent" }) {
+        if (lower.contains(word))
+            return true;
+    }
+    return false;
+}
+
 static QVariant randomValue(int type, Input &in)
 {
     switch (type) {
@@ -153,9 +163,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
                 const QMetaProperty property = properties.at(in.index(properties.size()));
                 // Enumerations take one of their own values, as any caller of the setter would.
                 const QMetaEnum enumerator = property.enumerator();
-                const QVariant value = property.isEnumType() && enumerator.keyCount() > 0
+                QVariant value = property.isEnumType() && enumerator.keyCount() > 0
                     ? QVariant(enumerator.value(in.index(enumerator.keyCount())))
                     : randomValue(property.userType(), in);
+                // Sizes and gaps make the window as large as asked, as with any Qt widget: keep
+                // them to what a screen can show.
+                if (value.type() == QVariant::Int && isGeometric(property.name()))
+                    value = value.toInt() % 4096;
                 if (trace)
                     qInfo("  property %s = %s", property.name(), qPrintable(value.toString()));
                 if (value.isValid())

@@ -171,7 +171,8 @@ void tst_QSliderEx::dialRecordsOnlyChanges()
     QCOMPARE(records.count(), 1);
 }
 
-// Qt's styles divide by zero when painting a slider whose span is exactly 2^31.
+// Qt's styles divide by zero when painting a slider whose span is exactly 2^31, and draw one tick
+// per interval however many that is.
 void tst_QSliderEx::spanOfTwoToThe31IsNarrowed()
 {
     m_slider->setRange(std::numeric_limits<int>::min(), 0);
@@ -181,6 +182,12 @@ void tst_QSliderEx::spanOfTwoToThe31IsNarrowed()
     m_slider->setRange(std::numeric_limits<int>::min(), 199);
     QCOMPARE(m_slider->minimum(), std::numeric_limits<int>::min());
     m_slider->grab();
+    // Tick marks over such a range would be billions of strokes: painting must still finish.
+    m_slider->setTickPosition(QSlider::TicksBelow);
+    m_slider->setTickInterval(1);
+    const QImage withoutTicks = m_slider->grab().toImage();
+    m_slider->setRange(0, 10);
+    QVERIFY(m_slider->grab().toImage() != withoutTicks);
 }
 
 VELA_TEST_CLASS(tst_QSliderEx)

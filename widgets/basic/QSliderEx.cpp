@@ -2,6 +2,9 @@
 
 #include "VelaEditRulesPrivate.h"
 
+#include <QPainter>
+#include <QStyleOptionSlider>
+
 using namespace Vela;
 
 QSliderEx::QSliderEx(QWidget *parent)
@@ -103,4 +106,27 @@ void QSliderEx::sliderChange(SliderChange change)
         return;
     }
     QSlider::sliderChange(change);
+}
+
+void QSliderEx::paintEvent(QPaintEvent *event)
+{
+    // The styles draw one tick mark per interval. Over a huge range (a logarithmic editor reaches
+    // down to the smallest integer) that is billions of marks, all closer than a pixel: paint the
+    // slider without them then.
+    const qint64 interval = tickInterval() > 0 ? tickInterval() : qMax(1, singleStep());
+    const qint64 length = orientation() == Qt::Horizontal ? width() : height();
+    if (tickPosition() == NoTicks
+        || (qint64(maximum()) - qint64(minimum())) / interval <= 4 * qMax<qint64>(length, 1)) {
+        QSlider::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+    if (isSliderDown()) {
+        option.activeSubControls = QStyle::SC_SliderHandle;
+        option.state |= QStyle::State_Sunken;
+    }
+    style()->drawComplexControl(QStyle::CC_Slider, &option, &painter, this);
 }

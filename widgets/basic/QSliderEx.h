@@ -36,6 +36,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void sliderChange(SliderChange change) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     // Hides the base setter: use SetValue, which records the value.
