@@ -17,7 +17,8 @@ int RegisterGalleryEntry(const GalleryEntry &entry)
 QVector<GalleryEntry> GalleryEntries()
 {
     QVector<GalleryEntry> entries = registry();
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](const GalleryEntry &a, const GalleryEntry &b) { return a.order < b.order; });
+    std::stable_sort(
+        entries.begin(), entries.end(),
+        [](const GalleryEntry &a, const GalleryEntry &b) { return a.order < b.order; });
     return entries;
 }

@@ -1,5 +1,6 @@
 #include "GalleryWindow.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QLabel>
 #include <QListWidget>
@@ -10,37 +11,48 @@
 #include <QTime>
 #include <QVBoxLayout>
 
-static const char kGalleryStyle[]
-    = "QMainWindow, QWidget#galleryPage, QScrollArea, QScrollArea > QWidget > QWidget"
-      " { background-color: #282828; color: #d0d0d0; }"
-      "QListWidget { background-color: #1c1c1c; color: #d0d0d0; border: none; }"
-      "QListWidget::item:selected { background-color: #505050; color: #82be0f; }"
-      "QPlainTextEdit { background-color: #1c1c1c; color: #a0a0a0; border: 1px solid #505050; }"
-      "QLabel#galleryTitle { color: #82be0f; font-weight: bold; font-size: 14px; }"
-      "QSlider#EditedWidget::handle:horizontal { background: #82be0f; }";
+// The host palette the library's own style sheets are written for.
+static const char kGalleryStyle[] =
+    "QMainWindow, QWidget#galleryPage, QWidget#galleryShot, QScrollArea,"
+    " QScrollArea > QWidget > QWidget { background-color: #282828; color: #d0d0d0; }"
+    "QLabel { color: #d0d0d0; }"
+    "QListWidget { background-color: #1c1c1c; color: #d0d0d0; border: none; }"
+    "QListWidget::item:selected { background-color: #505050; color: #82be0f; }"
+    "QPlainTextEdit { background-color: #1c1c1c; color: #a0a0a0; border: 1px solid #505050; }"
+    "QLabel#galleryTitle { color: #82be0f; font-weight: bold; font-size: 14px; }"
+    "QLabel#galleryDescription { color: #a0a0a0; }"
+    "QSlider#EditedWidget::handle:horizontal { background: #82be0f; }";
+
+const char *GalleryWindow::styleSheetText()
+{
+    return kGalleryStyle;
+}
 
 GalleryWindow::GalleryWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_entries(GalleryEntries())
+    , m_pageWidgets(m_entries.size(), nullptr)
 {
     setWindowTitle(QStringLiteral("Vela Widgets Gallery"));
     setStyleSheet(QLatin1String(kGalleryStyle));
 
     auto *splitter = new QSplitter(this);
     m_list = new QListWidget(splitter);
-    m_list->setMinimumWidth(200);
+    m_list->setMinimumWidth(220);
     auto *right = new QSplitter(Qt::Vertical, splitter);
     m_pages = new QStackedWidget(right);
     m_log = new QPlainTextEdit(right);
     m_log->setReadOnly(true);
     m_log->setMaximumBlockCount(500);
+    m_log->setPlaceholderText(QStringLiteral("Signals of the widget on show appear here."));
     right->setStretchFactor(0, 3);
     right->setStretchFactor(1, 1);
     splitter->setStretchFactor(1, 1);
     setCentralWidget(splitter);
 
     QString group;
-    for (const GalleryEntry &entry : m_entries) {
+    for (int i = 0; i < m_entries.size(); ++i) {
+        const GalleryEntry &entry = m_entries.at(i);
         if (entry.group != group) {
             group = entry.group;
             auto *header = new QListWidgetItem(group, m_list);
@@ -49,21 +61,29 @@ GalleryWindow::GalleryWindow(QWidget *parent)
             font.setBold(true);
             header->setFont(font);
         }
-        auto *item = new QListWidgetItem(QStringLiteral("    ") + entry.name, m_list);
-        QWidget *shown = nullptr;
-        item->setData(Qt::UserRole, m_pages->addWidget(createPage(entry, &shown)));
-        m_widgets.append(shown);
+        auto *item = new QListWidgetItem(QStringLiteral("   ") + entry.name, m_list);
+        item->setData(Qt::UserRole, i);
+        item->setToolTip(entry.description);
     }
-    connect(m_list, &QListWidget::currentItemChanged, this, [this](QListWidgetItem *item) {
-        if (item && item->data(Qt::UserRole).isValid())
-            m_pages->setCurrentIndex(item->data(Qt::UserRole).toInt());
-    });
+    connect(m_list, &QListWidget::currentItemChanged, this, &GalleryWindow::showEntry);
     if (m_list->count() > 1)
         m_list->setCurrentRow(1);
     resize(1100, 720);
 }
 
-QWidget *GalleryWindow::createPage(const GalleryEntry &entry, QWidget **shown)
+void GalleryWindow::showEntry(QListWidgetItem *item)
+{
+    if (!item || !item->data(Qt::UserRole).isValid())
+        return;
+    const int index = item->data(Qt::UserRole).toInt();
+    if (!m_pageWidgets.at(index)) {
+        m_pageWidgets[index] = createPage(m_entries.at(index));
+        m_pages->addWidget(m_pageWidgets.at(index));
+    }
+    m_pages->setCurrentWidget(m_pageWidgets.at(index));
+}
+
+QWidget *GalleryWindow::createPage(const GalleryEntry &entry)
 {
     auto *page = new QWidget;
     page->setObjectName(QStringLiteral("galleryPage"));
@@ -71,6 +91,7 @@ QWidget *GalleryWindow::createPage(const GalleryEntry &entry, QWidget **shown)
     auto *title = new QLabel(entry.name, page);
     title->setObjectName(QStringLiteral("galleryTitle"));
     auto *description = new QLabel(entry.description, page);
+    description->setObjectName(QStringLiteral("galleryDescription"));
     description->setWordWrap(true);
     layout->addWidget(title);
     layout->addWidget(description);
@@ -79,9 +100,7 @@ QWidget *GalleryWindow::createPage(const GalleryEntry &entry, QWidget **shown)
     scroll->setWidgetResizable(true);
     auto *holder = new QWidget;
     auto *holderLayout = new QVBoxLayout(holder);
-    *shown = entry.create(*this);
-    (*shown)->setParent(holder);
-    holderLayout->addWidget(*shown);
+    holderLayout->addWidget(entry.create(*this));
     holderLayout->addStretch(1);
     scroll->setWidget(holder);
     layout->addWidget(scroll, 1);
@@ -95,8 +114,7 @@ QString GalleryWindow::sampleDir() const
 
 void GalleryWindow::log(const QString &line)
 {
-    if (m_log)
-        m_log->appendPlainText(QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  ")) + line);
+    m_log->appendPlainText(QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz  ")) + line);
 }
 
 QWidget *GalleryWindow::mainWindow() const
@@ -104,18 +122,26 @@ QWidget *GalleryWindow::mainWindow() const
     return const_cast<GalleryWindow *>(this);
 }
 
-int GalleryWindow::writeScreenshots(const QString &dir)
+int GalleryWindow::writeScreenshots(const QString &dir, const QString &suffix)
 {
     QDir().mkpath(dir);
     int failures = 0;
-    for (int i = 0; i < m_entries.size(); ++i) {
-        m_pages->setCurrentIndex(i);
-        QWidget *widget = m_widgets.at(i);
-        widget->ensurePolished();
-        const QSize size = widget->size().expandedTo(widget->sizeHint()).expandedTo(QSize(64, 24));
-        widget->resize(size);
-        const QPixmap shot = widget->grab();
-        const QString file = QDir(dir).filePath(m_entries.at(i).name + QStringLiteral(".png"));
+    for (const GalleryEntry &entry : qAsConst(m_entries)) {
+        // Each picture: the widget with its name, on the host's dark background.
+        QWidget frame;
+        frame.setObjectName(QStringLiteral("galleryShot"));
+        frame.setAttribute(Qt::WA_StyledBackground);
+        frame.setStyleSheet(QLatin1String(kGalleryStyle));
+        auto *layout = new QVBoxLayout(&frame);
+        auto *title = new QLabel(entry.name, &frame);
+        title->setObjectName(QStringLiteral("galleryTitle"));
+        layout->addWidget(title);
+        layout->addWidget(entry.create(*this), 1);
+        frame.resize(frame.sizeHint().expandedTo(QSize(360, 120)).boundedTo(QSize(1200, 900)));
+        frame.show();
+        QApplication::processEvents();
+        const QPixmap shot = frame.grab();
+        const QString file = QDir(dir).filePath(entry.name + suffix + QStringLiteral(".png"));
         if (shot.isNull() || !shot.save(file))
             ++failures;
     }

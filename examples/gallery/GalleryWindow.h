@@ -7,11 +7,12 @@
 #include <QTemporaryDir>
 
 class QListWidget;
+class QListWidgetItem;
 class QPlainTextEdit;
 class QStackedWidget;
 
 // The gallery window: the list of pages on the left, the chosen widget with its description and
-// the live event log on the right.
+// the live event log on the right. Pages are built the first time they are shown.
 class GalleryWindow : public QMainWindow, public GalleryContext
 {
     Q_OBJECT
@@ -23,15 +24,19 @@ public:
     void log(const QString &line) override;
     QWidget *mainWindow() const override;
 
-    // Writes one PNG per page into dir; returns the number of failures.
-    int writeScreenshots(const QString &dir);
+    // Writes one PNG per page into dir, each file named after the page plus suffix; returns the
+    // number of pictures that could not be written.
+    int writeScreenshots(const QString &dir, const QString &suffix);
+
+    static const char *styleSheetText();
 
 private:
-    QWidget *createPage(const GalleryEntry &entry, QWidget **shown);
+    void showEntry(QListWidgetItem *item);
+    QWidget *createPage(const GalleryEntry &entry);
 
     QTemporaryDir m_samples;
     QVector<GalleryEntry> m_entries;
-    QVector<QWidget *> m_widgets;
+    QVector<QWidget *> m_pageWidgets;
     QListWidget *m_list = nullptr;
     QStackedWidget *m_pages = nullptr;
     QPlainTextEdit *m_log = nullptr;

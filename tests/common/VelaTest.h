@@ -16,7 +16,8 @@ int registerTestClass(const char *name, Factory factory);
 
 // Sends one wheel notch (positive: away from the user) to the centre of widget and returns
 // whether the widget accepted the event.
-inline bool wheel(QWidget *widget, int notches = 1, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+inline bool wheel(QWidget *widget, int notches = 1,
+                  Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     const QPoint pos = widget->rect().center();
     QWheelEvent event(pos, widget->mapToGlobal(pos), QPoint(), QPoint(0, 120 * notches),
@@ -28,7 +29,7 @@ inline bool wheel(QWidget *widget, int notches = 1, Qt::KeyboardModifiers modifi
 } // namespace VelaTest
 
 #define VELA_TEST_CLASS(Class)                                                                     \
-    static const int vela_test_registered_##Class                                                  \
-        = VelaTest::registerTestClass(#Class, []() -> QObject * { return new Class; });
+    static const int vela_test_registered_##Class =                                                \
+        VelaTest::registerTestClass(#Class, []() -> QObject * { return new Class; });
 
 #endif // VELATEST_H

@@ -11,7 +11,7 @@ endfunction()
 
 run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${prefix}")
 
-file(GLOB_RECURSE plugin "${prefix}/*/designer/libVelaQtCustomWidgets.so")
+file(GLOB_RECURSE plugin "${prefix}/libVelaQtCustomWidgets.so")
 list(FILTER plugin INCLUDE REGEX "/plugins/designer/")
 if(NOT plugin)
     message(FATAL_ERROR "The Designer plugin was not installed below ${prefix}")

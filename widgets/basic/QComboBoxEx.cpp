@@ -24,7 +24,7 @@ void QComboBoxEx::SetIgnoreWheelEvent(bool bIgnore)
 
 void QComboBoxEx::wheelEvent(QWheelEvent *event)
 {
-    // With the switch on, the wheel is swallowed: neither this box nor its parent scrolls.
+    // With the switch on, the event is left exactly as it came.
     if (m_bIgnoreWheelEvent)
         return;
     if (EditRules::AcceptsWheel(this, event))

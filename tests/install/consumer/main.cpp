@@ -17,7 +17,8 @@ int main(int argc, char **argv)
     QObject::connect(ui.countSpin, &QSpinBoxEx::RecordEditingValue, [&records] { ++records; });
     ui.volumeSlider->SetValue(7);
     const Vela::Result ok;
-    return (ui.countSpin->maximum() == 150 && ui.volumeSlider->value() == 7 && ok.code() == 0
+    return (ui.countSpin->maximum() == 150 && ui.volumeSlider->value() == 7
+            && ui.modeCombo->IgnoreWheelEvent() && ok.code() == 0
             && records == 0)
         ? 0
         : 1;

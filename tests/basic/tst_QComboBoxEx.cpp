@@ -1,0 +1,63 @@
+#include "QComboBoxEx.h"
+#include "VelaTest.h"
+
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <QtTest>
+
+class tst_QComboBoxEx : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ignoreWheelEventProperty();
+    void ignoredWheelNeverChangesSelection_data();
+    void ignoredWheelNeverChangesSelection();
+};
+
+void tst_QComboBoxEx::ignoreWheelEventProperty()
+{
+    QComboBoxEx combo;
+    QCOMPARE(combo.IgnoreWheelEvent(), false);
+    QVERIFY(combo.setProperty("ignoreWheelEvent", true));
+    QCOMPARE(combo.IgnoreWheelEvent(), true);
+    combo.SetIgnoreWheelEvent(false);
+    QCOMPARE(combo.property("ignoreWheelEvent").toBool(), false);
+    QCOMPARE(combo.focusPolicy(), Qt::StrongFocus);
+}
+
+void tst_QComboBoxEx::ignoredWheelNeverChangesSelection_data()
+{
+    QTest::addColumn<bool>("focused");
+    QTest::newRow("unfocused") << false;
+    QTest::newRow("focused") << true;
+}
+
+// With the switch on, the wheel never changes the selection, focused or not.
+void tst_QComboBoxEx::ignoredWheelNeverChangesSelection()
+{
+    QFETCH(bool, focused);
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *other = new QLineEdit(&window);
+    auto *combo = new QComboBoxEx(&window);
+    combo->addItems({ "Linear", "Smooth", "Step" });
+    combo->setCurrentIndex(1);
+    combo->SetIgnoreWheelEvent(true);
+    layout->addWidget(other);
+    layout->addWidget(combo);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QWidget *target = focused ? static_cast<QWidget *>(combo) : other;
+    target->setFocus();
+    QTRY_VERIFY(target->hasFocus());
+
+    QSignalSpy changes(combo, qOverload<int>(&QComboBox::currentIndexChanged));
+    VelaTest::wheel(combo, 1);
+    VelaTest::wheel(combo, -1);
+    QCOMPARE(combo->currentIndex(), 1);
+    QCOMPARE(changes.count(), 0);
+}
+
+VELA_TEST_CLASS(tst_QComboBoxEx)
+#include "tst_QComboBoxEx.moc"
