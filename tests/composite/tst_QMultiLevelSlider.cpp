@@ -84,6 +84,8 @@ private slots:
     void labelsBesideIndicators();
 
 private:
+    // Initialises the slider with the red test image as its normal image and blue when disabled.
+    bool init(int minimum, int maximum, const Indicators &list, bool freeOrder, bool middleMode);
     // Shows the slider at a fixed width, so that track positions are known.
     void show(int width);
     QPoint centreOf(unsigned long long index) const;
@@ -105,6 +107,15 @@ void tst_QMultiLevelSlider::init()
 void tst_QMultiLevelSlider::cleanup()
 {
     m_slider.reset();
+}
+
+bool tst_QMultiLevelSlider::init(int minimum, int maximum, const Indicators &list, bool freeOrder,
+                                 bool middleMode)
+{
+    return m_slider
+        ->InitUi(minimum, maximum, freeOrder, list, middleMode, &m_normal, &m_disabled, false,
+                 nullptr, nullptr, QColor(200, 200, 200))
+        .succeeded();
 }
 
 void tst_QMultiLevelSlider::show(int width)
@@ -302,10 +313,7 @@ void tst_QMultiLevelSlider::setIndicatorValue()
 
 void tst_QMultiLevelSlider::minimumGapWhileDragging()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 0, 5000 }), false, &m_normal, nullptr, false,
-                         nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 0, 5000 }), false, false));
     show(200);
     // h = 8, L = 183: the gap is round(9 / 183 * 10000) = 492.
     drag(0, 199);
@@ -320,10 +328,7 @@ void tst_QMultiLevelSlider::minimumGapWhileDragging()
 
 void tst_QMultiLevelSlider::dragToTrackStartStoresZero()
 {
-    QVERIFY(m_slider
-                ->InitUi(100, 10100, false, indicators({ 5000 }), false, &m_normal, nullptr, false,
-                         nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(100, 10100, indicators({ 5000 }), false, false));
     show(217);
     drag(0, 0);
     // The dragged value is measured from zero, not from the minimum.
@@ -336,10 +341,7 @@ void tst_QMultiLevelSlider::dragToTrackStartStoresZero()
 
 void tst_QMultiLevelSlider::callbacks()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 0, 5000, 10000 }), false, &m_normal, nullptr,
-                         false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 0, 5000, 10000 }), false, false));
     show(217);
     QStringList calls;
     m_slider->SetIndicatorMoveSignalInterface(
@@ -388,10 +390,7 @@ void tst_QMultiLevelSlider::fixedAndUnselectableIndicators()
     Indicators list = indicators({ 1000, 5000, 9000 });
     list[0].bFixed = true;
     list[2].bSelectable = false;
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, list, false, &m_normal, nullptr, false, nullptr, nullptr,
-                         Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, list, false, false));
     show(217);
     QList<unsigned long long> selected;
     int moves = 0;
@@ -415,10 +414,7 @@ void tst_QMultiLevelSlider::unconstrainedNeighbour()
 {
     Indicators list = indicators({ 0, 5000, 9000 });
     list[1].bUnconstrained = true;
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, list, false, &m_normal, nullptr, false, nullptr, nullptr,
-                         Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, list, false, false));
     show(217);
     // Gap: round(9 / 200 * 10000) = 450. The unconstrained middle one is passed over.
     drag(0, 216);
@@ -428,10 +424,7 @@ void tst_QMultiLevelSlider::unconstrainedNeighbour()
 
 void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, true, indicators({ 6000, 2000 }), false, &m_normal, nullptr,
-                         false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 6000, 2000 }), true, false));
     show(217);
     drag(1, 8 + 190);
     QCOMPARE(m_slider->GetIndicatorValue(1), 9500);
@@ -440,10 +433,7 @@ void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
 
 void tst_QMultiLevelSlider::middleFollowsFirst()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 0, 4000, 8000 }), true, &m_normal, nullptr,
-                         false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 0, 4000, 8000 }), false, true));
     show(217);
     QVERIFY(m_slider->UpdateMiddleIndicatorRatio().succeeded());
     drag(0, 8 + 40);
@@ -461,10 +451,7 @@ void tst_QMultiLevelSlider::middleFollowsFirst()
 
 void tst_QMultiLevelSlider::middleFollowsLast()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 2000, 3000, 6000 }), true, &m_normal,
-                         nullptr, false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 2000, 3000, 6000 }), false, true));
     show(217);
     // The default ratio is one half, whatever the initial values are.
     drag(2, 8 + 200);
@@ -475,10 +462,7 @@ void tst_QMultiLevelSlider::middleFollowsLast()
 
 void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 0, 4000, 8000 }), true, &m_normal, nullptr,
-                         false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 0, 4000, 8000 }), false, true));
     show(217);
     drag(1, 8 + 120);
     QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
@@ -500,10 +484,7 @@ void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
 
 void tst_QMultiLevelSlider::stackedEndsPickFirst()
 {
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 0, 5000, 9000 }), true, &m_normal, nullptr,
-                         false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, indicators({ 0, 5000, 9000 }), false, true));
     show(217);
     QVERIFY(m_slider->SetIndicatorValue(2, 10000, false).succeeded());
     QVERIFY(m_slider->SetIndicatorValue(1, 10000, false).succeeded());
@@ -524,10 +505,7 @@ void tst_QMultiLevelSlider::upperMiddleRaisesTrack()
 {
     Indicators list = indicators({ 0, 5000, 10000 });
     list[1].bPlaceUpper = true;
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, list, true, &m_normal, nullptr, false, nullptr, nullptr,
-                         Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, list, false, true));
     // Track y rises to gap 2 + pen 1 + image height 10 = 13; the upper image then starts at 0.
     QCOMPARE(m_slider->GetIndicatorImagePosY(0), 16);
     QCOMPARE(m_slider->GetIndicatorImagePosY(1), 0);
@@ -555,10 +533,7 @@ void tst_QMultiLevelSlider::disabledPainting()
     QPixmap own = filled(Qt::magenta);
     Indicators list = indicators({ 0, 10000 });
     list[1].pkImage = &own;
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, list, false, &m_normal, &m_disabled, false, nullptr,
-                         nullptr, QColor(200, 200, 200))
-                .succeeded());
+    QVERIFY(init(0, 10000, list, false, false));
     show(217);
     const QPoint first = centreOf(0);
     const QPoint last = centreOf(1);
@@ -616,10 +591,7 @@ void tst_QMultiLevelSlider::labelsBesideIndicators()
     list[1].nLabelOffsetY = 11;
     list[1].nLabelWidth = 32;
     list[1].nLabelHeight = 14;
-    QVERIFY(m_slider
-                ->InitUi(0, 10000, false, list, false, &m_normal, nullptr, false, nullptr, nullptr,
-                         Qt::gray)
-                .succeeded());
+    QVERIFY(init(0, 10000, list, false, false));
     show(217);
     m_slider->repaint();
     QCOMPARE(low.parentWidget(), static_cast<QWidget *>(m_slider.get()));
