@@ -110,7 +110,7 @@ bool VelaColorDialog2::eventFilter(QObject *pkWatched, QEvent *pkEvent)
         }
     } else if (pkWatched
                && (pkWatched == m_pkColorField || pkWatched == m_pkLuminanceField
-                   || m_kSpinBoxes.contains(static_cast<QSpinBox *>(pkWatched)))) {
+                   || m_kSpinBoxes.contains(qobject_cast<QSpinBox *>(pkWatched)))) {
         if (pkEvent->type() == QEvent::MouseButtonPress) {
             m_bEditing = true;
         } else if (pkEvent->type() == QEvent::MouseButtonRelease) {
