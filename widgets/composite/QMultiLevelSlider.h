@@ -91,6 +91,7 @@ private:
     long long GetIndicatorAt(const QPoint &kPos, bool bSelectableOnly) const;
     int ClampValue(int nValue) const;
 
+    Vela::CArrayList<IndicatorDesc> m_kIndicators;
     int m_nMinimum = 0;
     int m_nMaximum = 0;
     int m_nRange = 0;
@@ -132,7 +133,6 @@ private:
     IndicatorCallback m_kDoubleClickCallback;
 
     QColor m_kTrackColor = QColor(200, 200, 200, 255);
-    Vela::CArrayList<IndicatorDesc> m_kIndicators;
 };
 
 #endif // QMULTILEVELSLIDER_H
