@@ -90,24 +90,16 @@ void QDoubleSpinBoxEx::stepBy(int steps)
 {
     m_bStepping = true;
 
-    const double current = NewValueFromText(cleanText());
-    const double realMax = RealMaximum();
-    const double realMin = RealMinimum();
-    if (wrapping() && current == realMax && steps > 0) {
-        setValue(realMin);
-        return;
-    }
-    if (wrapping() && current == realMin && steps < 0) {
-        setValue(realMax);
-        return;
-    }
     // Round the step to the shown decimals, so 0.29 + 0.1 is compared as 0.39.
+    const double current = NewValueFromText(cleanText());
     const double scale = std::pow(10.0, decimals());
     const double target = current + std::round(singleStep() * steps * scale) / scale;
-    if (target >= realMin && target <= realMax)
-        QDoubleSpinBox::stepBy(steps);
+    const std::optional<double> confined =
+        EditRules::ConfinedStep(current, target, RealMinimum(), RealMaximum(), steps, wrapping());
+    if (confined)
+        setValue(*confined);
     else
-        setValue(steps > 0 ? realMax : realMin);
+        QDoubleSpinBox::stepBy(steps);
 }
 
 QValidator::State QDoubleSpinBoxEx::validate(QString &input, int &pos) const

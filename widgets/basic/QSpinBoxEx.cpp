@@ -95,24 +95,16 @@ void QSpinBoxEx::stepBy(int steps)
         EmitEditingValueStarted();
     m_bStepping = true;
 
-    const int current = NewValueFromText(cleanText());
-    const int realMax = RealMaximum();
-    const int realMin = RealMinimum();
-    if (wrapping() && current == realMax && steps > 0) {
-        setValue(realMin);
-        return;
-    }
-    if (wrapping() && current == realMin && steps < 0) {
-        setValue(realMax);
-        return;
-    }
     // Stepping stays inside the real range even while the wider editing range is in force.
+    const int current = NewValueFromText(cleanText());
     const long long target =
         static_cast<long long>(current) + static_cast<long long>(singleStep()) * steps;
-    if (target >= realMin && target <= realMax)
-        QSpinBox::stepBy(steps);
+    const std::optional<long long> confined = EditRules::ConfinedStep<long long>(
+        current, target, RealMinimum(), RealMaximum(), steps, wrapping());
+    if (confined)
+        setValue(int(*confined));
     else
-        setValue(steps > 0 ? realMax : realMin);
+        QSpinBox::stepBy(steps);
 }
 
 QValidator::State QSpinBoxEx::validate(QString &input, int &pos) const

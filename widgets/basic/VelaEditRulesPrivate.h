@@ -11,6 +11,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <optional>
 
 namespace Vela {
 namespace EditRules {
@@ -102,6 +103,21 @@ T LimitValue(T value, T recorded, T minimum, T maximum, T step, bool wrapping, R
         return wrapping ? maximum + remainder(value - minimum + step, maximum - minimum + step)
                         : minimum;
     return value;
+}
+
+// Where a step from `current` towards `target` lands, confined to the real range: no value lets
+// the base class take the step; otherwise the value to set (wrapped round the ends when
+// wrapping is on, else the end the step points to).
+template<typename T>
+std::optional<T> ConfinedStep(T current, T target, T minimum, T maximum, int steps, bool wrapping)
+{
+    if (wrapping && current == maximum && steps > 0)
+        return minimum;
+    if (wrapping && current == minimum && steps < 0)
+        return maximum;
+    if (target >= minimum && target <= maximum)
+        return std::nullopt;
+    return steps > 0 ? maximum : minimum;
 }
 
 } // namespace EditRules

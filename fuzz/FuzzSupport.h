@@ -1,0 +1,43 @@
+#ifndef FUZZSUPPORT_H
+#define FUZZSUPPORT_H
+
+#include <QByteArray>
+#include <QString>
+#include <QVector>
+
+#include "VelaWidgetCatalog.h"
+#include <cstddef>
+#include <cstdint>
+
+namespace VelaFuzz {
+
+// Reads typed values from the fuzzer's bytes; past the end it yields zeros.
+class Input
+{
+public:
+    Input(const std::uint8_t *data, std::size_t size)
+        : m_data(data)
+        , m_size(size)
+    { }
+
+    bool atEnd() const { return m_pos >= m_size; }
+    std::uint8_t byte() { return atEnd() ? 0 : m_data[m_pos++]; }
+    bool boolean() { return byte() & 1; }
+    int integer(); // mostly small values, sometimes extremes
+    double real(); // includes NaN, infinities and huge values
+    int index(int count) { return count > 0 ? int(byte()) % count : 0; }
+    QByteArray bytes(int maximum);
+    QString text(int maximum);
+
+private:
+    const std::uint8_t *m_data;
+    std::size_t m_size;
+    std::size_t m_pos = 0;
+};
+
+// Creates the QApplication once (offscreen platform).
+void EnsureApplication();
+
+} // namespace VelaFuzz
+
+#endif // FUZZSUPPORT_H
