@@ -1,0 +1,47 @@
+#ifndef COLORTESTSUPPORT_H
+#define COLORTESTSUPPORT_H
+
+#include <QApplication>
+#include <QDialog>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+namespace ColorTest {
+
+// A modal run blocks the caller in exec(): the test acts on the dialog from a timer, as soon as the
+// dialog is the active modal widget, and closes it if the action did not. `ran` tells afterwards
+// whether it ever came up.
+inline void onModal(const std::function<void(QDialog *)> &action, bool *ran, int attempts = 100)
+{
+    QTimer::singleShot(0, [action, ran, attempts]() {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (dialog) {
+            *ran = true;
+            action(dialog);
+            // A failed check inside the action must not leave the caller blocked.
+            if (dialog->isVisible())
+                dialog->reject();
+        } else if (attempts > 0) {
+            onModal(action, ran, attempts - 1);
+        }
+    });
+}
+
+// The first descendant of `parent` whose class is exactly `className` (Qt's private classes have
+// no public type to search for).
+inline QWidget *childOfClass(const QWidget *parent, const char *className)
+{
+    const QList<QWidget *> children = parent->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (qstrcmp(child->metaObject()->className(), className) == 0)
+            return child;
+    }
+    return nullptr;
+}
+
+} // namespace ColorTest
+
+#endif // COLORTESTSUPPORT_H

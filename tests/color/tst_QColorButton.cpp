@@ -1,0 +1,227 @@
+// Mouse events go through the window system, as a user's do.
+#define QTEST_QPA_MOUSE_HANDLING
+
+#include "ColorTestSupport.h"
+#include "QColorButton.h"
+#include "VelaTest.h"
+
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+QColor iconColor(const QToolButton &button)
+{
+    const QImage image = button.icon().pixmap(button.iconSize()).toImage();
+    if (image.size() != button.iconSize())
+        return QColor();
+    return image.pixelColor(image.width() - 1, image.height() - 1);
+}
+
+} // namespace
+
+class tst_QColorButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void defaults();
+    void properties();
+    void setColorEmitsOnlyOnChange();
+    void acceptedSession();
+    void cancelAfterLiveChange();
+    void cancelWithoutChange();
+    void sessionWithoutCallbacks();
+    void customDisconnect();
+
+private:
+    // Clicks the button and lets `action` act on the modal dialog, then checks it came up.
+    void runSession(const std::function<void(QColorDialog *)> &action);
+
+    std::unique_ptr<QWidget> m_window;
+    QColorButton *m_button = nullptr;
+    QStringList m_calls;
+};
+
+void tst_QColorButton::init()
+{
+    m_window.reset(new QWidget);
+    m_button = new QColorButton(m_window.get());
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    m_calls.clear();
+    m_button->SetUndoRedoFunctions([this] { m_calls << QStringLiteral("begin"); },
+                                   [this] { m_calls << QStringLiteral("end"); },
+                                   [this] { m_calls << QStringLiteral("accepted"); },
+                                   [this] { m_calls << QStringLiteral("reverted"); });
+}
+
+void tst_QColorButton::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_QColorButton::runSession(const std::function<void(QColorDialog *)> &action)
+{
+    bool ran = false;
+    ColorTest::onModal(
+        [&](QDialog *dialog) {
+            QCOMPARE(dialog, static_cast<QDialog *>(m_button->ColorDialogUi()));
+            action(m_button->ColorDialogUi());
+        },
+        &ran);
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(ran);
+    QVERIFY(!m_button->ColorDialogUi()->isVisible());
+}
+
+void tst_QColorButton::defaults()
+{
+    QColorButton button(nullptr);
+    QVERIFY(!button.GetColor().isValid());
+    QCOMPARE(button.iconSize(), QSize(32, 32));
+    // A new button shows black although it has no colour yet.
+    QCOMPARE(iconColor(button), QColor(Qt::black));
+    QVERIFY(button.ColorDialogUi());
+    // The dialog lives beside the button, under the button's parent.
+    QCOMPARE(m_button->ColorDialogUi()->parent(), m_window.get());
+    QVERIFY(!m_button->ColorDialogUi()->isVisible());
+}
+
+void tst_QColorButton::properties()
+{
+    QVERIFY(m_button->setProperty("Color", QColor(Qt::red)));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+    QCOMPARE(m_button->property("Color").value<QColor>(), QColor(Qt::red));
+    QVERIFY(m_button->setProperty("iconSize", QSize(20, 10)));
+    QCOMPARE(m_button->iconSize(), QSize(20, 10));
+    QCOMPARE(m_button->property("iconSize").toSize(), QSize(20, 10));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+    m_button->setIconSize(QSize(60, 25));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+}
+
+void tst_QColorButton::setColorEmitsOnlyOnChange()
+{
+    QStringList order;
+    connect(m_button, &QColorButton::ColorChanged, this, [&] { order << QStringLiteral("1"); });
+    connect(m_button, &QColorButton::ColorChanged2, this,
+            [&](QColor color) { order << color.name(); });
+    m_button->SetColor(QColor(Qt::red));
+    QCOMPARE(order, (QStringList { QStringLiteral("1"), QStringLiteral("#ff0000") }));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+    m_button->SetColor(QColor(Qt::red));
+    QCOMPARE(order.size(), 2);
+    m_button->SetColor(QColor(Qt::blue));
+    QCOMPARE(order.size(), 4);
+    QCOMPARE(iconColor(*m_button), QColor(Qt::blue));
+}
+
+void tst_QColorButton::acceptedSession()
+{
+    m_button->SetColor(QColor(Qt::red));
+    QSignalSpy changed(m_button, &QColorButton::ColorChanged2);
+    QColor seenLive;
+    runSession([&](QColorDialog *dialog) {
+        QCOMPARE(dialog->currentColor(), QColor(Qt::red));
+        QCOMPARE(m_calls, QStringList { QStringLiteral("begin") });
+        dialog->setCurrentColor(QColor(Qt::green));
+        seenLive = m_button->GetColor();
+        dialog->accept();
+    });
+    QCOMPARE(seenLive, QColor(Qt::green));
+    QCOMPARE(m_calls,
+             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
+                            QStringLiteral("accepted") }));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::green));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::green));
+    // Only the live change was reported; accepting stores the colour without a signal.
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).value<QColor>(), QColor(Qt::green));
+}
+
+void tst_QColorButton::cancelAfterLiveChange()
+{
+    m_button->SetColor(QColor(Qt::red));
+    QSignalSpy changed(m_button, &QColorButton::ColorChanged);
+    QSignalSpy changed2(m_button, &QColorButton::ColorChanged2);
+    runSession([&](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::blue));
+        dialog->setCurrentColor(QColor(Qt::yellow));
+        QCOMPARE(iconColor(*m_button), QColor(Qt::yellow));
+        dialog->reject();
+    });
+    QCOMPARE(m_calls,
+             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
+                            QStringLiteral("reverted") }));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+    QCOMPARE(changed.count(), 3);
+    QCOMPARE(changed2.count(), 3);
+    QCOMPARE(changed2.at(2).at(0).value<QColor>(), QColor(Qt::red));
+
+    // Moving away and back before cancelling still counts as a change.
+    m_calls.clear();
+    runSession([&](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::blue));
+        dialog->setCurrentColor(QColor(Qt::red));
+        dialog->reject();
+    });
+    QCOMPARE(m_calls,
+             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
+                            QStringLiteral("reverted") }));
+    QCOMPARE(changed.count(), 5);
+}
+
+void tst_QColorButton::cancelWithoutChange()
+{
+    m_button->SetColor(QColor(Qt::red));
+    QSignalSpy changed(m_button, &QColorButton::ColorChanged);
+    runSession([&](QColorDialog *dialog) { dialog->reject(); });
+    QCOMPARE(m_calls, (QStringList { QStringLiteral("begin"), QStringLiteral("end") }));
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+}
+
+void tst_QColorButton::sessionWithoutCallbacks()
+{
+    m_button->SetUndoRedoFunctions({}, {}, {}, {});
+    m_button->SetColor(QColor(Qt::red));
+    runSession([&](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::blue));
+        dialog->reject();
+    });
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+    runSession([&](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::blue));
+        dialog->accept();
+    });
+    QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
+    QVERIFY(m_calls.isEmpty());
+}
+
+void tst_QColorButton::customDisconnect()
+{
+    int reported = 0;
+    connect(m_button, &QColorButton::ColorChanged, this, [&] { ++reported; });
+    QSignalSpy pressed(m_button, &QColorButton::pressed);
+    m_button->CustomDisconnect();
+    m_button->SetColor(QColor(Qt::red));
+    QCOMPARE(reported, 0);
+
+    // The click still opens the dialog and the button still follows it.
+    runSession([&](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::blue));
+        dialog->accept();
+    });
+    QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
+    QCOMPARE(reported, 0);
+    QCOMPARE(pressed.count(), 0);
+}
+
+VELA_TEST_CLASS(tst_QColorButton)
+#include "tst_QColorButton.moc"

@@ -1,0 +1,315 @@
+// Mouse events go through the window system, as a user's do.
+#define QTEST_QPA_MOUSE_HANDLING
+
+#include "ColorTestSupport.h"
+#include "QColorButton2.h"
+#include "VelaTest.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+QColor iconColor(const QToolButton &button)
+{
+    const QImage image = button.icon().pixmap(button.iconSize()).toImage();
+    if (image.size() != button.iconSize())
+        return QColor();
+    return image.pixelColor(0, 0);
+}
+
+QColor firstColor(const QSignalSpy &spy)
+{
+    return spy.isEmpty() ? QColor() : spy.first().first().value<QColor>();
+}
+
+QColor lastColor(const QSignalSpy &spy)
+{
+    return spy.isEmpty() ? QColor() : spy.last().first().value<QColor>();
+}
+
+} // namespace
+
+class tst_QColorButton2 : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void defaults();
+    void setColorAlwaysEmits();
+    void modelessSession();
+    void dragReportsLiveThenFinished();
+    void changeOutsideDragIsFinished();
+    void resetReportsOpeningColour();
+    void noLiveReportsWhileScreenPicking();
+    void clickClearsPickingFlag();
+    void modalSessionRejected();
+    void modalSessionAccepted();
+    void customDisconnect();
+
+private:
+    // Opens the modeless dialog with the button's colour set to `color`.
+    void openModeless(const QColor &color);
+
+    std::unique_ptr<QWidget> m_window;
+    QColorButton2 *m_button = nullptr;
+    VelaColorDialog2 *m_dialog = nullptr;
+};
+
+void tst_QColorButton2::init()
+{
+    m_window.reset(new QWidget);
+    m_window->setGeometry(50, 50, 900, 700);
+    m_button = new QColorButton2(m_window.get());
+    m_dialog = m_button->GetColorDialog();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_QColorButton2::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_QColorButton2::openModeless(const QColor &color)
+{
+    m_button->SetModeless();
+    m_button->SetPosition(m_window.get(), ECDP_BottomRight, QPoint(10, 10));
+    m_button->SetColor(color);
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog));
+}
+
+void tst_QColorButton2::defaults()
+{
+    QColorButton2 button(nullptr);
+    QVERIFY(!button.GetColor().isValid());
+    QCOMPARE(button.iconSize(), QSize(32, 32));
+    QCOMPARE(iconColor(button), QColor(Qt::black));
+    QVERIFY(!button.GetColorDialog()->IsModeless());
+    QCOMPARE(m_dialog->parent(), m_window.get());
+
+    QVERIFY(m_button->setProperty("Color", QColor(Qt::cyan)));
+    QCOMPARE(m_button->property("Color").value<QColor>(), QColor(Qt::cyan));
+    QVERIFY(m_button->setProperty("iconSize", QSize(24, 12)));
+    QCOMPARE(m_button->iconSize(), QSize(24, 12));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::cyan));
+}
+
+void tst_QColorButton2::setColorAlwaysEmits()
+{
+    QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
+    QSignalSpy changed2(m_button, &QColorButton2::ColorChanged2);
+    QSignalSpy dialogChanged(m_dialog, &QColorDialog::currentColorChanged);
+    m_button->SetColor(QColor(Qt::red));
+    m_button->SetColor(QColor(Qt::red));
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(changed2.count(), 2);
+    QCOMPARE(lastColor(changed2), QColor(Qt::red));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+    // The dialog follows silently and keeps its own blocking state.
+    QCOMPARE(m_dialog->currentColor(), QColor(Qt::red));
+    QCOMPARE(dialogChanged.count(), 0);
+    QVERIFY(!m_dialog->signalsBlocked());
+    m_dialog->blockSignals(true);
+    m_button->SetColor(QColor(Qt::blue));
+    QVERIFY(m_dialog->signalsBlocked());
+    m_dialog->blockSignals(false);
+    QCOMPARE(m_dialog->currentColor(), QColor(Qt::blue));
+}
+
+void tst_QColorButton2::modelessSession()
+{
+    QSignalSpy clicked(m_button, &QColorButton2::Clicked);
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    QSignalSpy placed(m_dialog, &VelaColorDialog2::ColorChanged2);
+    openModeless(QColor(Qt::red));
+    QCOMPARE(clicked.count(), 1);
+    QVERIFY(m_dialog->isVisible());
+    QVERIFY(!m_dialog->isModal());
+    QVERIFY(!QApplication::activeModalWidget());
+    QCOMPARE(m_dialog->currentColor(), QColor(Qt::red));
+    // Shown beside the main window: the dialog reports the colour it opened with.
+    QCOMPARE(placed.count(), 1);
+    QCOMPARE(firstColor(placed), QColor(Qt::red));
+    QCOMPARE(finished.count(), 0);
+    m_button->Close();
+    QVERIFY(!m_dialog->isVisible());
+}
+
+void tst_QColorButton2::dragReportsLiveThenFinished()
+{
+    openModeless(QColor(Qt::red));
+    QSignalSpy live(m_button, &QColorButton2::CurrentColorChanged);
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
+    QWidget *field = ColorTest::childOfClass(m_dialog, "QColorPicker");
+    QVERIFY(field);
+
+    QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseMove(field, QPoint(30, 40));
+    QTest::mouseMove(field, QPoint(50, 60));
+    QCOMPARE(live.count(), 3);
+    QCOMPARE(finished.count(), 0);
+    QCOMPARE(m_button->GetColor(), lastColor(live));
+    QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, QPoint(50, 60));
+    QCOMPARE(live.count(), 3);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(firstColor(finished), m_dialog->currentColor());
+    QCOMPARE(m_button->GetColor(), m_dialog->currentColor());
+    // The host updates the icon itself, through SetColor.
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+    QCOMPARE(changed.count(), 0);
+}
+
+void tst_QColorButton2::changeOutsideDragIsFinished()
+{
+    openModeless(QColor(Qt::red));
+    QSignalSpy live(m_button, &QColorButton2::CurrentColorChanged);
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    // What clicking a stored colour or typing a value does.
+    m_dialog->setCurrentColor(QColor(Qt::green));
+    QCOMPARE(live.count(), 0);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(firstColor(finished), QColor(Qt::green));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::green));
+}
+
+void tst_QColorButton2::resetReportsOpeningColour()
+{
+    openModeless(QColor(Qt::red));
+    m_dialog->setCurrentColor(QColor(Qt::green));
+    m_dialog->setCurrentColor(QColor(Qt::blue));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
+
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    QAbstractButton *reset = m_dialog->findChild<QDialogButtonBox *>()->buttons().value(0);
+    QVERIFY(reset);
+    QTest::mouseClick(reset, Qt::LeftButton);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(firstColor(finished), QColor(Qt::red));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+    QVERIFY(m_dialog->isVisible());
+
+    // A later opening takes the colour of that moment as the one to reset to.
+    m_button->Close();
+    m_button->SetColor(QColor(Qt::yellow));
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    m_dialog->setCurrentColor(QColor(Qt::green));
+    QTest::mouseClick(reset, Qt::LeftButton);
+    QCOMPARE(lastColor(finished), QColor(Qt::yellow));
+}
+
+void tst_QColorButton2::noLiveReportsWhileScreenPicking()
+{
+    openModeless(QColor(Qt::red));
+    QSignalSpy live(m_button, &QColorButton2::CurrentColorChanged);
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    QPushButton *pick = m_dialog->findChildren<QPushButton *>().value(0);
+    QVERIFY(pick);
+
+    QTest::mouseClick(pick, Qt::LeftButton);
+    QVERIFY(m_dialog->IsPickingScreenColor());
+    QTest::mouseMove(m_dialog, QPoint(5, 5));
+    QTest::mouseMove(m_dialog, QPoint(30, 12));
+    m_dialog->setCurrentColor(QColor(Qt::magenta));
+    QCOMPARE(live.count(), 0);
+    QCOMPARE(finished.count(), 0);
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+
+    // The click that ends the picker is one finished edit, with the picked colour.
+    QTest::mouseClick(m_dialog, Qt::LeftButton, Qt::NoModifier, QPoint(30, 12));
+    QVERIFY(!m_dialog->IsPickingScreenColor());
+    QCOMPARE(live.count(), 0);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(firstColor(finished), m_dialog->currentColor());
+    QCOMPARE(m_button->GetColor(), m_dialog->currentColor());
+}
+
+void tst_QColorButton2::clickClearsPickingFlag()
+{
+    openModeless(QColor(Qt::red));
+    QPushButton *pick = m_dialog->findChildren<QPushButton *>().value(0);
+    m_button->Close();
+    // Without placement the show leaves the flag alone: only the click clears it.
+    m_dialog->SetPosition(ECDP_None);
+    // A picker that was left running (its button stayed disabled) is forgotten on the next open.
+    pick->setEnabled(false);
+    QVERIFY(m_dialog->IsPickingScreenColor());
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(m_dialog->isVisible());
+    QVERIFY(!m_dialog->IsPickingScreenColor());
+    pick->setEnabled(true);
+
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    m_dialog->setCurrentColor(QColor(Qt::green));
+    QCOMPARE(finished.count(), 1);
+}
+
+void tst_QColorButton2::modalSessionRejected()
+{
+    m_button->SetColor(QColor(Qt::red));
+    QSignalSpy clicked(m_button, &QColorButton2::Clicked);
+    QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
+    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    bool ran = false;
+    ColorTest::onModal(
+        [&](QDialog *dialog) {
+            QCOMPARE(dialog, static_cast<QDialog *>(m_dialog));
+            m_dialog->setCurrentColor(QColor(Qt::blue));
+            dialog->reject();
+        },
+        &ran);
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(ran);
+    QCOMPARE(clicked.count(), 0);
+    // Closing the dialog reverts nothing: the change was reported as it happened.
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+}
+
+void tst_QColorButton2::modalSessionAccepted()
+{
+    m_button->SetColor(QColor(Qt::red));
+    QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
+    QSignalSpy changed2(m_button, &QColorButton2::ColorChanged2);
+    bool ran = false;
+    ColorTest::onModal(
+        [&](QDialog *dialog) {
+            QCOMPARE(m_dialog->currentColor(), QColor(Qt::red));
+            m_dialog->setCurrentColor(QColor(Qt::green));
+            dialog->accept();
+        },
+        &ran);
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(ran);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed2.count(), 1);
+    QCOMPARE(firstColor(changed2), QColor(Qt::green));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::green));
+    QCOMPARE(iconColor(*m_button), QColor(Qt::green));
+}
+
+void tst_QColorButton2::customDisconnect()
+{
+    int reported = 0;
+    connect(m_button, &QColorButton2::EditFinished, this, [&] { ++reported; });
+    m_button->CustomDisconnect();
+    openModeless(QColor(Qt::red));
+    QVERIFY(m_dialog->isVisible());
+    // The button still follows the dialog; only its own listeners are gone.
+    m_dialog->setCurrentColor(QColor(Qt::green));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::green));
+    QCOMPARE(reported, 0);
+}
+
+VELA_TEST_CLASS(tst_QColorButton2)
+#include "tst_QColorButton2.moc"

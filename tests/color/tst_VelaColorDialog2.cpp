@@ -1,0 +1,264 @@
+// Mouse events go through the window system, as a user's do.
+#define QTEST_QPA_MOUSE_HANDLING
+
+#include "ColorTestSupport.h"
+#include "VelaColorDialog2.h"
+#include "VelaTest.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QtTest>
+
+#include <memory>
+
+class tst_VelaColorDialog2 : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void defaults();
+    void colourFieldsFoundByClass();
+    void onlyResetButton();
+    void dragInColourField();
+    void pressInLuminanceField();
+    void spinBoxPressFinishesOnRelease();
+    void screenPicker();
+    void placement_data();
+    void placement();
+    void noPlacementWithoutMainWindow();
+
+private:
+    void showDialog();
+
+    std::unique_ptr<VelaColorDialog2> m_dialog;
+};
+
+void tst_VelaColorDialog2::init()
+{
+    m_dialog.reset(new VelaColorDialog2(nullptr));
+}
+
+void tst_VelaColorDialog2::cleanup()
+{
+    m_dialog.reset();
+}
+
+void tst_VelaColorDialog2::showDialog()
+{
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+}
+
+void tst_VelaColorDialog2::defaults()
+{
+    QVERIFY(!m_dialog->IsModeless());
+    QVERIFY(!m_dialog->IsEditing());
+    QVERIFY(!m_dialog->IsPickingScreenColor());
+    m_dialog->SetModeless();
+    QVERIFY(m_dialog->IsModeless());
+    QVERIFY(m_dialog->testOption(QColorDialog::DontUseNativeDialog));
+}
+
+void tst_VelaColorDialog2::colourFieldsFoundByClass()
+{
+    // Qt 5.15 has its colour field and luminance field at descendants 7 and 8; 9 and 10 are the
+    // colour shower and its label, which take no drags.
+    const QList<QWidget *> children = m_dialog->findChildren<QWidget *>();
+    QVERIFY(children.size() > 10);
+    QCOMPARE(children.at(7)->metaObject()->className(), "QColorPicker");
+    QCOMPARE(children.at(8)->metaObject()->className(), "QColorLuminancePicker");
+    QCOMPARE(children.at(9)->metaObject()->className(), "QColorShower");
+    QCOMPARE(children.at(10)->metaObject()->className(), "QColorShowLabel");
+
+    // The first push button is the one that starts the screen picker.
+    const QList<QPushButton *> buttons = m_dialog->findChildren<QPushButton *>();
+    QVERIFY(!buttons.isEmpty());
+    QCOMPARE(buttons.first()->text(), QStringLiteral("&Pick Screen Color"));
+}
+
+void tst_VelaColorDialog2::onlyResetButton()
+{
+    const QList<QDialogButtonBox *> boxes = m_dialog->findChildren<QDialogButtonBox *>();
+    QCOMPARE(boxes.size(), 1);
+    const QList<QAbstractButton *> buttons = boxes.first()->buttons();
+    QCOMPARE(buttons.size(), 1);
+    QCOMPARE(buttons.first()->text(), QStringLiteral("Reset Color"));
+    QCOMPARE(boxes.first()->buttonRole(buttons.first()), QDialogButtonBox::ActionRole);
+
+    showDialog();
+    for (QPushButton *button : boxes.first()->findChildren<QPushButton *>())
+        QCOMPARE(button->isVisible(), button == buttons.first());
+
+    QSignalSpy reset(m_dialog.get(), &VelaColorDialog2::ResetColor);
+    QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
+    QTest::mouseClick(buttons.first(), Qt::LeftButton);
+    QCOMPARE(reset.count(), 1);
+    QCOMPARE(finished.count(), 0);
+    // Neither accepted nor rejected: the dialog stays open.
+    QVERIFY(m_dialog->isVisible());
+}
+
+void tst_VelaColorDialog2::dragInColourField()
+{
+    m_dialog->setCurrentColor(QColor(128, 64, 32));
+    showDialog();
+    QWidget *field = ColorTest::childOfClass(m_dialog.get(), "QColorPicker");
+    QVERIFY(field);
+
+    QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
+    QList<bool> editingWhenChanged;
+    connect(m_dialog.get(), &QColorDialog::currentColorChanged, this,
+            [&]() { editingWhenChanged << m_dialog->IsEditing(); });
+
+    QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
+    QVERIFY(m_dialog->IsEditing());
+    QTest::mouseMove(field, QPoint(40, 30));
+    QTest::mouseMove(field, QPoint(60, 50));
+    QCOMPARE(finished.count(), 0);
+    QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, QPoint(60, 50));
+    QVERIFY(!m_dialog->IsEditing());
+
+    QCOMPARE(editingWhenChanged, (QList<bool> { true, true, true }));
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(finished.at(0).at(0).value<QColor>(), m_dialog->currentColor());
+    QVERIFY(m_dialog->currentColor() != QColor(128, 64, 32));
+}
+
+void tst_VelaColorDialog2::pressInLuminanceField()
+{
+    m_dialog->setCurrentColor(QColor(200, 10, 10));
+    showDialog();
+    QWidget *field = ColorTest::childOfClass(m_dialog.get(), "QColorLuminancePicker");
+    QVERIFY(field);
+    QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
+    QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(field->width() / 2, 40));
+    QVERIFY(m_dialog->IsEditing());
+    QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, QPoint(field->width() / 2, 40));
+    QVERIFY(!m_dialog->IsEditing());
+    QCOMPARE(finished.count(), 1);
+    QVERIFY(m_dialog->currentColor() != QColor(200, 10, 10));
+}
+
+void tst_VelaColorDialog2::spinBoxPressFinishesOnRelease()
+{
+    m_dialog->setCurrentColor(QColor(10, 20, 30));
+    showDialog();
+    QSpinBox *spin = m_dialog->findChildren<QSpinBox *>().value(3); // red
+    QVERIFY(spin);
+    QCOMPARE(spin->value(), 10);
+
+    QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
+    // The step-up arrow at the spin box's top right.
+    const QPoint up(spin->width() - 4, 3);
+    QTest::mousePress(spin, Qt::LeftButton, Qt::NoModifier, up);
+    QVERIFY(m_dialog->IsEditing());
+    QCOMPARE(finished.count(), 0);
+    QTest::mouseRelease(spin, Qt::LeftButton, Qt::NoModifier, up);
+    QVERIFY(!m_dialog->IsEditing());
+    QCOMPARE(finished.count(), 1);
+    QCOMPARE(m_dialog->currentColor(), QColor(11, 20, 30));
+    QCOMPARE(finished.at(0).at(0).value<QColor>(), QColor(11, 20, 30));
+}
+
+void tst_VelaColorDialog2::screenPicker()
+{
+    m_dialog->setCurrentColor(QColor(1, 2, 3));
+    showDialog();
+    QPushButton *pick = m_dialog->findChildren<QPushButton *>().first();
+    QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
+
+    QTest::mouseClick(pick, Qt::LeftButton);
+    QVERIFY(!pick->isEnabled());
+    QVERIFY(m_dialog->IsPickingScreenColor());
+    m_dialog->setCurrentColor(QColor(200, 100, 50));
+    QCOMPARE(finished.count(), 0);
+
+    // Escape ends the picker and restores the colour from before it started.
+    QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
+    QVERIFY(pick->isEnabled());
+    QVERIFY(!m_dialog->IsPickingScreenColor());
+    QCOMPARE(finished.count(), 1);
+    QVERIFY(m_dialog->isVisible());
+
+    // Enabling the button again without a requested pick reports nothing.
+    pick->setEnabled(false);
+    QVERIFY(m_dialog->IsPickingScreenColor());
+    pick->setEnabled(true);
+    QVERIFY(m_dialog->IsPickingScreenColor());
+    QCOMPARE(finished.count(), 1);
+    m_dialog->ResetPickingScreenColor();
+    QVERIFY(!m_dialog->IsPickingScreenColor());
+}
+
+void tst_VelaColorDialog2::placement_data()
+{
+    QTest::addColumn<int>("position");
+    QTest::newRow("top left") << 1;
+    QTest::newRow("top right") << 2;
+    QTest::newRow("bottom left") << 3;
+    QTest::newRow("bottom right") << 4;
+}
+
+void tst_VelaColorDialog2::placement()
+{
+    QFETCH(int, position);
+    QWidget mainWindow;
+    mainWindow.setGeometry(100, 80, 1000, 800);
+    mainWindow.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&mainWindow));
+    const QRect M = mainWindow.geometry();
+
+    m_dialog->adjustSize();
+    m_dialog->move(300, 200);
+    const QRect G = m_dialog->geometry();
+    m_dialog->SetMainWnd(&mainWindow);
+    m_dialog->SetPosition(EColorDialogPosition(position));
+    m_dialog->SetMargin(QPoint(10, 12));
+    m_dialog->setCurrentColor(QColor(9, 8, 7));
+    QSignalSpy changed(m_dialog.get(), &VelaColorDialog2::ColorChanged2);
+
+    showDialog();
+    // Only the left and top edges are moved.
+    int left = M.left() + 10;
+    int top = M.top() + 12;
+    if (position == 2 || position == 4)
+        left = G.left() + M.right() - 10 - G.right();
+    if (position == 3 || position == 4)
+        top = G.top() + M.bottom() - G.bottom() - 12;
+    QCOMPARE(m_dialog->geometry().left(), left);
+    QCOMPARE(m_dialog->geometry().top(), top);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.at(0).at(0).value<QColor>(), QColor(9, 8, 7));
+
+    // Placement happens once; every later show still reports the colour.
+    const QRect placed = m_dialog->geometry();
+    mainWindow.move(0, 0);
+    m_dialog->hide();
+    showDialog();
+    QCOMPARE(m_dialog->geometry(), placed);
+    QCOMPARE(changed.count(), 2);
+}
+
+void tst_VelaColorDialog2::noPlacementWithoutMainWindow()
+{
+    QWidget mainWindow;
+    m_dialog->SetMainWnd(&mainWindow);
+    m_dialog->SetPosition(ECDP_None);
+    QSignalSpy changed(m_dialog.get(), &VelaColorDialog2::ColorChanged2);
+    showDialog();
+    QCOMPARE(changed.count(), 0);
+    m_dialog->hide();
+
+    VelaColorDialog2 unplaced(nullptr);
+    QSignalSpy unplacedChanged(&unplaced, &VelaColorDialog2::ColorChanged2);
+    unplaced.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&unplaced));
+    QCOMPARE(unplacedChanged.count(), 0);
+}
+
+VELA_TEST_CLASS(tst_VelaColorDialog2)
+#include "tst_VelaColorDialog2.moc"

@@ -1,0 +1,609 @@
+// Mouse events go through the window system, as a user's do (press, moves, release and double
+// clicks reach the slider the way Qt delivers them).
+#define QTEST_QPA_MOUSE_HANDLING
+
+#include "QMultiLevelSlider.h"
+#include "VelaTest.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QtTest>
+
+#include <memory>
+
+using Indicators = Vela::CArrayList<QMultiLevelSlider::IndicatorDesc>;
+
+namespace {
+
+// Exposes the slider's geometry helpers to the test.
+class Slider : public QMultiLevelSlider
+{
+public:
+    using QMultiLevelSlider::DetermineIndicatorImage;
+    using QMultiLevelSlider::GetIndicatorImagePosX;
+    using QMultiLevelSlider::GetIndicatorImagePosY;
+    using QMultiLevelSlider::GetIndicatorPosX;
+    using QMultiLevelSlider::GetTrackEndPosX;
+    using QMultiLevelSlider::GetTrackLength;
+    using QMultiLevelSlider::GetTrackStartPosX;
+    using QMultiLevelSlider::QMultiLevelSlider;
+};
+
+QPixmap filled(const QColor &color, const QSize &size = QSize(16, 10))
+{
+    QPixmap pixmap(size);
+    pixmap.fill(color);
+    return pixmap;
+}
+
+QMultiLevelSlider::IndicatorDesc indicator(int value)
+{
+    QMultiLevelSlider::IndicatorDesc desc;
+    desc.nValue = value;
+    desc.bSelectable = true;
+    return desc;
+}
+
+Indicators indicators(std::initializer_list<int> values)
+{
+    Indicators list;
+    for (int value : values)
+        list.push_back(indicator(value));
+    return list;
+}
+
+} // namespace
+
+class tst_QMultiLevelSlider : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void defaults();
+    void initUiValidation_data();
+    void initUiValidation();
+    void middleModeNeedsThreeOrderedIndicators();
+    void geometry();
+    void setIndicatorValue();
+    void minimumGapWhileDragging();
+    void dragToTrackStartStoresZero();
+    void callbacks();
+    void fixedAndUnselectableIndicators();
+    void unconstrainedNeighbour();
+    void freeOrderPassesNeighbours();
+    void middleFollowsFirst();
+    void middleFollowsLast();
+    void draggingMiddleStoresRatio();
+    void stackedEndsPickFirst();
+    void upperMiddleRaisesTrack();
+    void disabledPainting();
+    void hoverAndSelectedImages();
+    void labelsBesideIndicators();
+
+private:
+    // Initialises the slider with the red test image as its normal image and blue when disabled.
+    bool init(int minimum, int maximum, const Indicators &list, bool freeOrder, bool middleMode);
+    // Shows the slider at a fixed width, so that track positions are known.
+    void show(int width);
+    QPoint centreOf(unsigned long long index) const;
+    void drag(unsigned long long index, int toX);
+    QImage paint();
+
+    std::unique_ptr<Slider> m_slider;
+    QPixmap m_normal = filled(Qt::red);
+    QPixmap m_disabled = filled(Qt::blue);
+    QPixmap m_selected = filled(Qt::green);
+    QPixmap m_hover = filled(Qt::yellow);
+};
+
+void tst_QMultiLevelSlider::init()
+{
+    m_slider.reset(new Slider(nullptr));
+}
+
+void tst_QMultiLevelSlider::cleanup()
+{
+    m_slider.reset();
+}
+
+bool tst_QMultiLevelSlider::init(int minimum, int maximum, const Indicators &list, bool freeOrder,
+                                 bool middleMode)
+{
+    return m_slider
+        ->InitUi(minimum, maximum, freeOrder, list, middleMode, &m_normal, &m_disabled, false,
+                 nullptr, nullptr, QColor(200, 200, 200))
+        .succeeded();
+}
+
+void tst_QMultiLevelSlider::show(int width)
+{
+    m_slider->setFixedSize(width, 40);
+    m_slider->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_slider.get()));
+}
+
+QPoint tst_QMultiLevelSlider::centreOf(unsigned long long index) const
+{
+    return QPoint(m_slider->GetIndicatorPosX(index), m_slider->GetIndicatorImagePosY(index) + 3);
+}
+
+void tst_QMultiLevelSlider::drag(unsigned long long index, int toX)
+{
+    const QPoint from = centreOf(index);
+    QTest::mousePress(m_slider.get(), Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mouseMove(m_slider.get(), QPoint(toX, from.y()));
+    QTest::mouseRelease(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(toX, from.y()));
+}
+
+QImage tst_QMultiLevelSlider::paint()
+{
+    return m_slider->grab().toImage();
+}
+
+void tst_QMultiLevelSlider::defaults()
+{
+    QCOMPARE(m_slider->accessibleName(), QStringLiteral("QMultiLevelSlider"));
+    QVERIFY(m_slider->hasMouseTracking());
+    QCOMPARE(m_slider->focusPolicy(), Qt::StrongFocus);
+    QCOMPARE(m_slider->GetCount(), 0u);
+    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
+    QVERIFY(!m_slider->layout());
+    // Painting and mouse handling before initialisation must be harmless.
+    show(100);
+    QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 20));
+    QTest::mouseMove(m_slider.get(), QPoint(10, 10));
+    QVERIFY(!paint().isNull());
+}
+
+void tst_QMultiLevelSlider::initUiValidation_data()
+{
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<bool>("freeOrder");
+    QTest::addColumn<QList<int>>("values");
+    QTest::addColumn<QSize>("selectedSize");
+    QTest::addColumn<QSize>("hoverSize");
+    QTest::addColumn<quint32>("code");
+
+    const QSize same(16, 10);
+    QTest::newRow("valid") << 0 << 100 << false << QList<int> { 10, 20 } << same << same << 0u;
+    QTest::newRow("equal bounds") << 5 << 5 << false << QList<int> { 5 } << same << same
+                                  << 0x80000003u;
+    QTest::newRow("inverted bounds")
+        << 100 << 0 << false << QList<int> { 10 } << same << same << 0x80000003u;
+    QTest::newRow("below minimum")
+        << 0 << 100 << false << QList<int> { -1, 20 } << same << same << 0x80000003u;
+    QTest::newRow("above maximum")
+        << 0 << 100 << false << QList<int> { 10, 101 } << same << same << 0x80000003u;
+    QTest::newRow("equal values") << 0 << 100 << false << QList<int> { 10, 10 } << same << same
+                                  << 0x80000003u;
+    QTest::newRow("falling values")
+        << 0 << 100 << false << QList<int> { 20, 10 } << same << same << 0x80000003u;
+    QTest::newRow("equal values, free order")
+        << 0 << 100 << true << QList<int> { 10, 10 } << same << same << 0u;
+    QTest::newRow("falling values, free order")
+        << 0 << 100 << true << QList<int> { 20, 10 } << same << same << 0u;
+    QTest::newRow("selected image of another size")
+        << 0 << 100 << false << QList<int> { 10 } << QSize(17, 10) << same << 0x80000003u;
+    QTest::newRow("hover image of another size")
+        << 0 << 100 << false << QList<int> { 10 } << same << QSize(16, 9) << 0x80000003u;
+}
+
+void tst_QMultiLevelSlider::initUiValidation()
+{
+    QFETCH(int, minimum);
+    QFETCH(int, maximum);
+    QFETCH(bool, freeOrder);
+    QFETCH(QList<int>, values);
+    QFETCH(QSize, selectedSize);
+    QFETCH(QSize, hoverSize);
+    QFETCH(quint32, code);
+
+    Indicators list;
+    for (int value : values)
+        list.push_back(indicator(value));
+    QPixmap selected = filled(Qt::green, selectedSize);
+    QPixmap hover = filled(Qt::yellow, hoverSize);
+    QCOMPARE(
+        m_slider->CheckInputData(minimum, maximum, freeOrder, list, &m_normal, &selected, &hover)
+            .code(),
+        code);
+    const Vela::Result result =
+        m_slider->InitUi(minimum, maximum, freeOrder, list, false, &m_normal, &m_disabled, false,
+                         &selected, &hover, QColor(200, 200, 200));
+    QCOMPARE(result.code(), code);
+    if (code == 0) {
+        QCOMPARE(m_slider->GetCount(), unsigned(values.size()));
+        QVERIFY(m_slider->layout());
+        for (int i = 0; i < values.size(); ++i)
+            QCOMPARE(m_slider->GetIndicatorValue(i), values.at(i));
+    } else {
+        // A rejected call changes nothing.
+        QCOMPARE(m_slider->GetCount(), 0u);
+        QVERIFY(!m_slider->layout());
+        QCOMPARE(m_slider->GetIndicatorValue(0), 0);
+    }
+}
+
+void tst_QMultiLevelSlider::middleModeNeedsThreeOrderedIndicators()
+{
+    QCOMPARE(m_slider
+                 ->InitUi(10, 90, false, indicators({ 20, 30 }), true, nullptr, nullptr, false,
+                          nullptr, nullptr, Qt::gray)
+                 .code(),
+             0x80000003u);
+    // The bounds of the rejected call stay stored, the list is not taken.
+    QCOMPARE(m_slider->GetCount(), 0u);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 10);
+
+    Slider other(nullptr);
+    QCOMPARE(other
+                 .InitUi(0, 90, true, indicators({ 20, 30, 40 }), true, nullptr, nullptr, false,
+                         nullptr, nullptr, Qt::gray)
+                 .code(),
+             0x80000003u);
+    Slider third(nullptr);
+    QCOMPARE(third
+                 .InitUi(0, 90, false, indicators({ 20, 30, 40 }), true, nullptr, nullptr, false,
+                         nullptr, nullptr, Qt::gray)
+                 .code(),
+             0u);
+}
+
+void tst_QMultiLevelSlider::geometry()
+{
+    Indicators list = indicators({ 0, 2500, 5000, 10000 });
+    list[1].bPlaceUpper = true;
+    list[1].nUpperOffset = 8;
+    QCOMPARE(m_slider
+                 ->InitUi(0, 10000, false, list, false, &m_normal, nullptr, false, nullptr, nullptr,
+                          Qt::gray)
+                 .code(),
+             0u);
+    // No upper middle: the minimum height is the floor of 12.
+    QCOMPARE(m_slider->minimumHeight(), 12);
+    show(200);
+    QCOMPARE(m_slider->GetTrackStartPosX(), 8);
+    QCOMPARE(m_slider->GetTrackEndPosX(), 191);
+    QCOMPARE(m_slider->GetTrackLength(), 183);
+    QCOMPARE(m_slider->GetIndicatorImagePosX(0), 0);
+    // 183 * 0.25 = 45.75 and 183 * 0.5 = 91.5, rounded half away from zero.
+    QCOMPARE(m_slider->GetIndicatorImagePosX(1), 46);
+    QCOMPARE(m_slider->GetIndicatorPosX(1), 54);
+    QCOMPARE(m_slider->GetIndicatorImagePosX(2), 92);
+    QCOMPARE(m_slider->GetIndicatorImagePosX(3), 183);
+    // Below the track: gap 2 + pen 1 + track y 8. Above: max(0, 8 - 10 - 2 - 1 + 8).
+    QCOMPARE(m_slider->GetIndicatorImagePosY(0), 11);
+    QCOMPARE(m_slider->GetIndicatorImagePosY(1), 3);
+
+    m_slider->SetTrackPosY(4);
+    QCOMPARE(m_slider->GetIndicatorImagePosY(0), 7);
+    QCOMPARE(m_slider->GetIndicatorImagePosY(1), 0);
+}
+
+void tst_QMultiLevelSlider::setIndicatorValue()
+{
+    QVERIFY(m_slider
+                ->InitUi(100, 200, false, indicators({ 120, 150, 180 }), false, nullptr, nullptr,
+                         false, nullptr, nullptr, Qt::gray)
+                .succeeded());
+    int calls = 0;
+    m_slider->SetIndicatorMoveSignalInterface([&](unsigned long long) { ++calls; });
+    QCOMPARE(m_slider->SetIndicatorValue(5, 130, true).code(), 0x80000004u);
+    QCOMPARE(m_slider->SetIndicatorValue(3, 130, true).code(), 0x80000004u);
+    QCOMPARE(m_slider->SetIndicatorValue(1, 130, true).code(), 0u);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 130);
+    QCOMPARE(m_slider->SetIndicatorValue(2, 500, false).code(), 0u);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 200);
+    QCOMPARE(m_slider->SetIndicatorValue(0, -7, false).code(), 0u);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 100);
+    QCOMPARE(m_slider->GetIndicatorValue(3), 100);
+    QCOMPARE(calls, 0);
+
+    // The bounds can be moved without touching the stored range.
+    m_slider->SetMax(150);
+    QCOMPARE(m_slider->SetIndicatorValue(2, 190, false).code(), 0u);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 150);
+    m_slider->SetSelectedIndicator(2);
+    QCOMPARE(m_slider->GetSelectedIndicator(), 2ull);
+}
+
+void tst_QMultiLevelSlider::minimumGapWhileDragging()
+{
+    QVERIFY(init(0, 10000, indicators({ 0, 5000 }), false, false));
+    show(200);
+    // h = 8, L = 183: the gap is round(9 / 183 * 10000) = 492.
+    drag(0, 199);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 5000 - 492);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+
+    // Dragged down onto the first one, the second stops a gap above it.
+    drag(1, 0);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(m_slider->GetSelectedIndicator(), 1ull);
+}
+
+void tst_QMultiLevelSlider::dragToTrackStartStoresZero()
+{
+    QVERIFY(init(100, 10100, indicators({ 5000 }), false, false));
+    show(217);
+    drag(0, 0);
+    // The dragged value is measured from zero, not from the minimum.
+    QCOMPARE(m_slider->GetIndicatorValue(0), 0);
+
+    // L = 200 on a 217 pixel widget: each pixel is 50.
+    drag(0, 8 + 120);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 6000);
+}
+
+void tst_QMultiLevelSlider::callbacks()
+{
+    QVERIFY(init(0, 10000, indicators({ 0, 5000, 10000 }), false, false));
+    show(217);
+    QStringList calls;
+    m_slider->SetIndicatorMoveSignalInterface(
+        [&](unsigned long long i) { calls << QStringLiteral("move %1").arg(i); });
+    m_slider->SetIndicatorMoveDoneSignalInterface(
+        [&](unsigned long long i) { calls << QStringLiteral("done %1").arg(i); });
+    m_slider->SetIndicatorSelecteChangeSignalInterface(
+        [&](unsigned long long i) { calls << QStringLiteral("select %1").arg(i); });
+    m_slider->SetIndicatorDoubleClickSignalInterface(
+        [&](unsigned long long i) { calls << QStringLiteral("double %1").arg(i); });
+
+    const QPoint middle = centreOf(1);
+    QTest::mousePress(m_slider.get(), Qt::LeftButton, Qt::NoModifier, middle);
+    QCOMPARE(calls, QStringList { QStringLiteral("select 1") });
+    QTest::mouseMove(m_slider.get(), middle + QPoint(10, 0));
+    QTest::mouseMove(m_slider.get(), middle + QPoint(20, 0));
+    QTest::mouseRelease(m_slider.get(), Qt::LeftButton, Qt::NoModifier, middle + QPoint(20, 0));
+    QCOMPARE(calls,
+             (QStringList { QStringLiteral("select 1"), QStringLiteral("move 1"),
+                            QStringLiteral("move 1"), QStringLiteral("done 1") }));
+    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
+
+    // Pressing the selected indicator again and a double click report no selection change; the
+    // double-click callback is never called.
+    calls.clear();
+    QTest::mouseDClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, centreOf(1));
+    QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, centreOf(1));
+    QVERIFY(!calls.isEmpty());
+    for (const QString &call : qAsConst(calls))
+        QCOMPARE(call, QStringLiteral("done 1"));
+
+    // Pressing beside every indicator, or with another button, changes nothing.
+    calls.clear();
+    QTest::mousePress(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(60, 2));
+    QTest::mouseMove(m_slider.get(), QPoint(150, 2));
+    QTest::mouseRelease(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(150, 2));
+    QTest::mousePress(m_slider.get(), Qt::RightButton, Qt::NoModifier, centreOf(0));
+    QTest::mouseRelease(m_slider.get(), Qt::RightButton, Qt::NoModifier, centreOf(0));
+    QVERIFY(calls.isEmpty());
+    QCOMPARE(m_slider->GetSelectedIndicator(), 1ull);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
+}
+
+void tst_QMultiLevelSlider::fixedAndUnselectableIndicators()
+{
+    Indicators list = indicators({ 1000, 5000, 9000 });
+    list[0].bFixed = true;
+    list[2].bSelectable = false;
+    QVERIFY(init(0, 10000, list, false, false));
+    show(217);
+    QList<unsigned long long> selected;
+    int moves = 0;
+    m_slider->SetIndicatorSelecteChangeSignalInterface(
+        [&](unsigned long long i) { selected << i; });
+    m_slider->SetIndicatorMoveSignalInterface([&](unsigned long long) { ++moves; });
+
+    drag(0, 150);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 1000);
+    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
+    QCOMPARE(moves, 0);
+
+    drag(2, 20);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 9000);
+    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
+    QCOMPARE(selected, QList<unsigned long long> {});
+    QCOMPARE(moves, 0);
+}
+
+void tst_QMultiLevelSlider::unconstrainedNeighbour()
+{
+    Indicators list = indicators({ 0, 5000, 9000 });
+    list[1].bUnconstrained = true;
+    QVERIFY(init(0, 10000, list, false, false));
+    show(217);
+    // Gap: round(9 / 200 * 10000) = 450. The unconstrained middle one is passed over.
+    drag(0, 216);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 9000 - 450);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+}
+
+void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
+{
+    QVERIFY(init(0, 10000, indicators({ 6000, 2000 }), true, false));
+    show(217);
+    drag(1, 8 + 190);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 9500);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 6000);
+}
+
+void tst_QMultiLevelSlider::middleFollowsFirst()
+{
+    QVERIFY(init(0, 10000, indicators({ 0, 4000, 8000 }), false, true));
+    show(217);
+    QVERIFY(m_slider->UpdateMiddleIndicatorRatio().succeeded());
+    drag(0, 8 + 40);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 8000);
+
+    // The ends keep a gap of one in middle mode; the middle one, pulled along to the same value,
+    // then pushes the first one back by that gap.
+    drag(0, 216);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 7998);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 7999);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 8000);
+}
+
+void tst_QMultiLevelSlider::middleFollowsLast()
+{
+    QVERIFY(init(0, 10000, indicators({ 2000, 3000, 6000 }), false, true));
+    show(217);
+    // The default ratio is one half, whatever the initial values are.
+    drag(2, 8 + 200);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 10000);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+}
+
+void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
+{
+    QVERIFY(init(0, 10000, indicators({ 0, 4000, 8000 }), false, true));
+    show(217);
+    drag(1, 8 + 120);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
+    // Ratio now (6000 - 0) / 8000 = 0.75.
+    drag(0, 8 + 40);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 6500);
+
+    // The middle one cannot leave the ends (gap 0).
+    drag(1, 0);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 2000);
+
+    // SetIndicatorValue with update recomputes the ratio from the values: (5000 - 2000) / 6000.
+    QVERIFY(m_slider->SetIndicatorValue(1, 5000, true).succeeded());
+    drag(2, 8 + 180);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 9000);
+    QCOMPARE(m_slider->GetIndicatorValue(1), 5500);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+}
+
+void tst_QMultiLevelSlider::stackedEndsPickFirst()
+{
+    QVERIFY(init(0, 10000, indicators({ 0, 5000, 9000 }), false, true));
+    show(217);
+    QVERIFY(m_slider->SetIndicatorValue(2, 10000, false).succeeded());
+    QVERIFY(m_slider->SetIndicatorValue(1, 10000, false).succeeded());
+    QVERIFY(m_slider->SetIndicatorValue(0, 10000, true).succeeded());
+    // All three sit at the end of the track; the press picks the first one, not the last.
+    drag(0, 8 + 100);
+    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
+    QCOMPARE(m_slider->GetIndicatorValue(0), 5000);
+    QCOMPARE(m_slider->GetIndicatorValue(2), 10000);
+
+    // Away from the end, the last indicator under the point wins.
+    QVERIFY(m_slider->SetIndicatorValue(2, 5000, false).succeeded());
+    QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, centreOf(0));
+    QCOMPARE(m_slider->GetSelectedIndicator(), 2ull);
+}
+
+void tst_QMultiLevelSlider::upperMiddleRaisesTrack()
+{
+    Indicators list = indicators({ 0, 5000, 10000 });
+    list[1].bPlaceUpper = true;
+    QVERIFY(init(0, 10000, list, false, true));
+    // Track y rises to gap 2 + pen 1 + image height 10 = 13; the upper image then starts at 0.
+    QCOMPARE(m_slider->GetIndicatorImagePosY(0), 16);
+    QCOMPARE(m_slider->GetIndicatorImagePosY(1), 0);
+    QCOMPARE(m_slider->minimumHeight(), 1 + 13 + 2 + 10);
+    // The middle one uses the upper image set, the ends the images passed in.
+    QVERIFY(m_slider->DetermineIndicatorImage(1) != &m_normal);
+    QCOMPARE(m_slider->DetermineIndicatorImage(0), &m_normal);
+
+    Slider other(nullptr);
+    QVERIFY(other
+                .InitUi(0, 10000, false, indicators({ 0, 5000, 10000 }), true, &m_normal, nullptr,
+                        false, nullptr, nullptr, Qt::gray)
+                .succeeded());
+    QCOMPARE(other.DetermineIndicatorImage(1), &m_normal);
+    other.SetIndicatorPlaceUpper(1, true);
+    QVERIFY(other.DetermineIndicatorImage(1) != &m_normal);
+    other.SetIndicatorPlaceUpper(1, false);
+    // Once switched on, the upper image set stays.
+    QVERIFY(other.DetermineIndicatorImage(1) != &m_normal);
+    other.SetIndicatorPlaceUpper(7, true);
+}
+
+void tst_QMultiLevelSlider::disabledPainting()
+{
+    QPixmap own = filled(Qt::magenta);
+    Indicators list = indicators({ 0, 10000 });
+    list[1].pkImage = &own;
+    QVERIFY(init(0, 10000, list, false, false));
+    show(217);
+    const QPoint first = centreOf(0);
+    const QPoint last = centreOf(1);
+
+    QImage image = paint();
+    QCOMPARE(image.pixelColor(100, 8), QColor(200, 200, 200));
+    QCOMPARE(image.pixelColor(first), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(last), QColor(Qt::magenta));
+
+    m_slider->setEnabled(false);
+    image = paint();
+    QCOMPARE(image.pixelColor(100, 8), QColor(70, 70, 70));
+    QCOMPARE(image.pixelColor(first), QColor(Qt::blue));
+    QCOMPARE(image.pixelColor(last), QColor(Qt::magenta));
+}
+
+void tst_QMultiLevelSlider::hoverAndSelectedImages()
+{
+    QVERIFY(m_slider
+                ->InitUi(0, 10000, false, indicators({ 0, 10000 }), false, &m_normal, &m_disabled,
+                         true, &m_selected, &m_hover, Qt::gray)
+                .succeeded());
+    show(217);
+    const QPoint first = centreOf(0);
+    const QPoint last = centreOf(1);
+    QImage image = paint();
+    QCOMPARE(image.pixelColor(first), QColor(Qt::green));
+    QCOMPARE(image.pixelColor(last), QColor(Qt::red));
+
+    // Hover is seen without a button held.
+    QTest::mouseMove(m_slider.get(), last);
+    image = paint();
+    QCOMPARE(image.pixelColor(last), QColor(Qt::yellow));
+    QTest::mouseMove(m_slider.get(), QPoint(100, 2));
+    QCOMPARE(paint().pixelColor(last), QColor(Qt::red));
+
+    QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, last);
+    QCOMPARE(paint().pixelColor(last), QColor(Qt::green));
+    QCOMPARE(paint().pixelColor(first), QColor(Qt::red));
+}
+
+void tst_QMultiLevelSlider::labelsBesideIndicators()
+{
+    // The slider's layout takes the labels in, so they go with the slider.
+    QLabel &low = *new QLabel(QStringLiteral("low"));
+    QLabel &high = *new QLabel(QStringLiteral("high"));
+    Indicators list = indicators({ 0, 5000 });
+    list[0].pkLabel = &low;
+    list[0].nLabelOffsetX = 2;
+    list[0].nLabelOffsetY = 10;
+    list[0].nLabelWidth = 30;
+    list[0].nLabelHeight = 12;
+    list[1].pkLabel = &high;
+    list[1].nLabelOffsetX = -8;
+    list[1].nLabelOffsetY = 11;
+    list[1].nLabelWidth = 32;
+    list[1].nLabelHeight = 14;
+    QVERIFY(init(0, 10000, list, false, false));
+    show(217);
+    m_slider->repaint();
+    QCOMPARE(low.parentWidget(), static_cast<QWidget *>(m_slider.get()));
+    QCOMPARE(low.geometry(), QRect(2, 21, 30, 12));
+    QCOMPARE(high.geometry(), QRect(100 - 8, 22, 32, 14));
+    QCOMPARE(high.alignment(), Qt::AlignCenter);
+    QVERIFY(m_slider->layout()->indexOf(&high) >= 0);
+
+    drag(1, 8 + 150);
+    m_slider->repaint();
+    QCOMPARE(high.geometry(), QRect(150 - 8, 22, 32, 14));
+}
+
+VELA_TEST_CLASS(tst_QMultiLevelSlider)
+#include "tst_QMultiLevelSlider.moc"
