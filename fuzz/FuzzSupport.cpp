@@ -68,6 +68,7 @@ void EnsureApplication()
     static char name[] = "vela-fuzz";
     static char *argv[] = { name, nullptr };
     new QApplication(argc, argv);
+    VelaCatalog::RejectModalDialogs();
 }
 
 } // namespace VelaFuzz

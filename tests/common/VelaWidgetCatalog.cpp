@@ -8,6 +8,10 @@
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+
 extern "C" QObject *qt_plugin_instance();
 
 namespace VelaCatalog {
@@ -41,6 +45,17 @@ const QVector<Entry> &Widgets()
         return list;
     }();
     return entries;
+}
+
+void RejectModalDialogs()
+{
+    auto *timer = new QTimer(qApp);
+    timer->setInterval(20);
+    QObject::connect(timer, &QTimer::timeout, [] {
+        if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+            dialog->reject();
+    });
+    timer->start();
 }
 
 } // namespace VelaCatalog

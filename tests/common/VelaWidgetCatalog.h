@@ -21,6 +21,11 @@ struct Entry
 
 const QVector<Entry> &Widgets();
 
+// Some widgets open a modal dialog when clicked (the colour buttons). Runs that click every widget
+// call this once after creating the application: every modal dialog that opens is then rejected
+// from the event loop it runs, so that no click waits for a user.
+void RejectModalDialogs();
+
 } // namespace VelaCatalog
 
 #endif // VELAWIDGETCATALOG_H

@@ -54,6 +54,7 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    VelaCatalog::RejectModalDialogs();
     QStringList args = app.arguments();
     int cycles = 1000;
     QList<int> reportAt;
