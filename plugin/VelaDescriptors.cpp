@@ -1,12 +1,9 @@
 #include "VelaDescriptors.h"
 
-// A widget joins the collection as soon as its header is part of the build.
-
 // Separators of the one-line form documents.
 #define VELA_SEP25 "                         "
 #define VELA_SEP26 "                          "
 
-#if __has_include("QTransToolBtn.h")
 #include "QTransToolBtn.h"
 static const VelaWidgetDescriptor::Row kQTransToolBtnPluginRow = {
     "QTransToolBtn", "QTransToolBtn.h", false,
@@ -26,9 +23,6 @@ QTransToolBtnPlugin::QTransToolBtnPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQTransToolBtnPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QVelaContainer.h")
 #include "QVelaContainer.h"
 static const VelaWidgetDescriptor::Row kQVelaContainerPluginRow = {
     "QVelaContainer", "QVelaContainer.h", true,
@@ -48,9 +42,6 @@ QVelaContainerPlugin::QVelaContainerPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQVelaContainerPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QMouseSpinBox.h")
 #include "QMouseSpinBox.h"
 static const VelaWidgetDescriptor::Row kQMouseSpinBoxPluginRow = {
     "QMouseSpinBox", "QMouseSpinBox.h", false,
@@ -70,9 +61,6 @@ QMouseSpinBoxPlugin::QMouseSpinBoxPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQMouseSpinBoxPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QKdPickContainer.h")
 #include "QKdPickContainer.h"
 static const VelaWidgetDescriptor::Row kQKdPickContainerPluginRow = {
     "QKdPickContainer", "QKdPickContainer.h", true,
@@ -92,9 +80,6 @@ QKdPickContainerPlugin::QKdPickContainerPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQKdPickContainerPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QDragDropListWidget.h")
 #include "QDragDropListWidget.h"
 static const VelaWidgetDescriptor::Row kQDragDropListWidgetPluginRow = {
     "QDragDropListWidget", "QDragDropListWidget.h", false,
@@ -114,9 +99,6 @@ QDragDropListWidgetPlugin::QDragDropListWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQDragDropListWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QDragDropTableWidget.h")
 #include "QDragDropTableWidget.h"
 static const VelaWidgetDescriptor::Row kQDragDropTableWidgetPluginRow = {
     "QDragDropTableWidget", "QDragDropTableWidget.h", false,
@@ -136,9 +118,6 @@ QDragDropTableWidgetPlugin::QDragDropTableWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQDragDropTableWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QHoverToolBtn.h")
 #include "QHoverToolBtn.h"
 static const VelaWidgetDescriptor::Row kQHoverToolBtnPluginRow = {
     "QHoverToolBtn", "QHoverToolBtn.h", false,
@@ -158,9 +137,6 @@ QHoverToolBtnPlugin::QHoverToolBtnPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQHoverToolBtnPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QKdFKModifyTableManager.h")
 #include "QKdFKModifyTableManager.h"
 static const VelaWidgetDescriptor::Row kQKdFKModifyTableManagerPluginRow = {
     "QKdFKModifyTableManager", "QKdFKModifyTableManager.h", true,
@@ -180,9 +156,6 @@ QKdFKModifyTableManagerPlugin::QKdFKModifyTableManagerPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQKdFKModifyTableManagerPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QKdFKTemplateTableManager.h")
 #include "QKdFKTemplateTableManager.h"
 static const VelaWidgetDescriptor::Row kQKdFKTemplateTableManagerPluginRow = {
     "QKdFKTemplateTableManager", "QKdFKTemplateTableManager.h", true,
@@ -202,9 +175,6 @@ QKdFKTemplateTableManagerPlugin::QKdFKTemplateTableManagerPlugin(QObject *parent
     : VelaWidgetDescriptor(kQKdFKTemplateTableManagerPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QLineEditWithClear.h")
 #include "QLineEditWithClear.h"
 static const VelaWidgetDescriptor::Row kQLineEditWithClearPluginRow = {
     "QLineEditWithClear", "QLineEditWithClear.h", false,
@@ -224,9 +194,6 @@ QLineEditWithClearPlugin::QLineEditWithClearPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQLineEditWithClearPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QKdPlayWidget.h")
 #include "QKdPlayWidget.h"
 static const VelaWidgetDescriptor::Row kQKdPlayWidgetPluginRow = {
     "QKdPlayWidget", "QKdPlayWidget.h", true,
@@ -246,9 +213,6 @@ QKdPlayWidgetPlugin::QKdPlayWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQKdPlayWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QStartEndIndicatorWidget.h")
 #include "QStartEndIndicatorWidget.h"
 static const VelaWidgetDescriptor::Row kQStartEndIndicatorWidgetPluginRow = {
     "QStartEndIndicatorWidget", "QStartEndIndicatorWidget.h", true,
@@ -268,9 +232,6 @@ QStartEndIndicatorWidgetPlugin::QStartEndIndicatorWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQStartEndIndicatorWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QClickableLabel.h")
 #include "QClickableLabel.h"
 static const VelaWidgetDescriptor::Row kQClickableLabelPluginRow = {
     "QClickableLabel", "QClickableLabel.h", false,
@@ -290,9 +251,6 @@ QClickableLabelPlugin::QClickableLabelPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQClickableLabelPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QKdCurveWidget.h")
 #include "QKdCurveWidget.h"
 static const VelaWidgetDescriptor::Row kQKdCurveWidgetPluginRow = {
     "QKdCurveWidget", "QKdCurveWidget.h", true,
@@ -312,9 +270,6 @@ QKdCurveWidgetPlugin::QKdCurveWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQKdCurveWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QItemLabel.h")
 #include "QItemLabel.h"
 static const VelaWidgetDescriptor::Row kQItemLabelPluginRow = {
     "QItemLabel", "QItemLabel.h", false,
@@ -334,9 +289,6 @@ QItemLabelPlugin::QItemLabelPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQItemLabelPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QColorButton.h")
 #include "QColorButton.h"
 static const VelaWidgetDescriptor::Row kQColorButtonPluginRow = {
     "QColorButton", "QColorButton.h", false,
@@ -356,9 +308,6 @@ QColorButtonPlugin::QColorButtonPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQColorButtonPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QColorButton2.h")
 #include "QColorButton2.h"
 static const VelaWidgetDescriptor::Row kQColorButtonPlugin2Row = {
     "QColorButton2", "QColorButton2.h", false,
@@ -378,9 +327,6 @@ QColorButtonPlugin2::QColorButtonPlugin2(QObject *parent)
     : VelaWidgetDescriptor(kQColorButtonPlugin2Row, parent)
 { }
 
-#endif
-
-#if __has_include("QComboSpinBox.h")
 #include "QComboSpinBox.h"
 static const VelaWidgetDescriptor::Row kQComboSpinBoxPluginRow = {
     "QComboSpinBox", "QComboSpinBox.h", true,
@@ -396,9 +342,6 @@ QComboSpinBoxPlugin::QComboSpinBoxPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQComboSpinBoxPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QComboDoubleSpinBox.h")
 #include "QComboDoubleSpinBox.h"
 static const VelaWidgetDescriptor::Row kQComboDoubleSpinBoxPluginRow = {
     "QComboDoubleSpinBox", "QComboDoubleSpinBox.h", false,
@@ -415,9 +358,6 @@ QComboDoubleSpinBoxPlugin::QComboDoubleSpinBoxPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQComboDoubleSpinBoxPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QComboNonlinearDoubleSpinBox.h")
 #include "QComboNonlinearDoubleSpinBox.h"
 static const VelaWidgetDescriptor::Row kQComboNonlinearDoubleSpinBoxPluginRow = {
     "QComboNonlinearDoubleSpinBox", "QComboNonlinearDoubleSpinBox.h", false,
@@ -434,9 +374,6 @@ QComboNonlinearDoubleSpinBoxPlugin::QComboNonlinearDoubleSpinBoxPlugin(QObject *
     : VelaWidgetDescriptor(kQComboNonlinearDoubleSpinBoxPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QComboBoxEx.h")
 #include "QComboBoxEx.h"
 static const VelaWidgetDescriptor::Row kQComboBoxExPluginRow = {
     "QComboBoxEx", "QComboBoxEx.h", false,
@@ -455,9 +392,6 @@ QComboBoxExPlugin::QComboBoxExPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQComboBoxExPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QSpinBoxEx.h")
 #include "QSpinBoxEx.h"
 static const VelaWidgetDescriptor::Row kQSpinBoxExPluginRow = {
     "QSpinBoxEx", "QSpinBoxEx.h", false,
@@ -474,9 +408,6 @@ QSpinBoxExPlugin::QSpinBoxExPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQSpinBoxExPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QDoubleSpinBoxEx.h")
 #include "QDoubleSpinBoxEx.h"
 static const VelaWidgetDescriptor::Row kQDoubleSpinBoxExPluginRow = {
     "QDoubleSpinBoxEx", "QDoubleSpinBoxEx.h", false,
@@ -493,9 +424,6 @@ QDoubleSpinBoxExPlugin::QDoubleSpinBoxExPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQDoubleSpinBoxExPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QSliderEx.h")
 #include "QSliderEx.h"
 static const VelaWidgetDescriptor::Row kQSliderExPluginRow = {
     "QSliderEx", "QSliderEx.h", false,
@@ -515,9 +443,6 @@ QSliderExPlugin::QSliderExPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQSliderExPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QVisemeButton.h")
 #include "QVisemeButton.h"
 static const VelaWidgetDescriptor::Row kQVisemeButtonPluginRow = {
     "QVisemeButton", "QVisemeButton.h", false,
@@ -537,9 +462,6 @@ QVisemeButtonPlugin::QVisemeButtonPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQVisemeButtonPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QVisemeCurveWidgetLite.h")
 #include "QVisemeCurveWidgetLite.h"
 static const VelaWidgetDescriptor::Row kQVisemeCurveWidgetLitePluginRow = {
     "QVisemeCurveWidgetLite", "QVisemeCurveWidgetLite.h", false,
@@ -559,9 +481,6 @@ QVisemeCurveWidgetLitePlugin::QVisemeCurveWidgetLitePlugin(QObject *parent)
     : VelaWidgetDescriptor(kQVisemeCurveWidgetLitePluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QDiphoneListWidget.h")
 #include "QDiphoneListWidget.h"
 static const VelaWidgetDescriptor::Row kQDiphoneListWidgetPluginRow = {
     "QDiphoneListWidget", "QDiphoneListWidget.h", false,
@@ -581,9 +500,6 @@ QDiphoneListWidgetPlugin::QDiphoneListWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQDiphoneListWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QVisemeListWidget.h")
 #include "QVisemeListWidget.h"
 static const VelaWidgetDescriptor::Row kQVisemeListWidgetPluginRow = {
     "QVisemeListWidget", "QVisemeListWidget.h", false,
@@ -603,9 +519,6 @@ QVisemeListWidgetPlugin::QVisemeListWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQVisemeListWidgetPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QCurveeditor.h")
 #include "QCurveeditor.h"
 static const VelaWidgetDescriptor::Row kQCurveEditorPluginRow = {
     "QCurveEditor", "QCurveeditor.h", false,
@@ -625,9 +538,6 @@ QCurveEditorPlugin::QCurveEditorPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQCurveEditorPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QVelaPushbutton.h")
 #include "QVelaPushbutton.h"
 static const VelaWidgetDescriptor::Row kQVelaPushButtonPluginRow = {
     "QVelaPushButton", "QVelaPushbutton.h", false,
@@ -647,9 +557,6 @@ QVelaPushButtonPlugin::QVelaPushButtonPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQVelaPushButtonPluginRow, parent)
 { }
 
-#endif
-
-#if __has_include("QGroupWidget.h")
 #include "QGroupWidget.h"
 static const VelaWidgetDescriptor::Row kQGroupWidgetPluginRow = {
     "QGroupWidget", "QGroupWidget.h", false,
@@ -669,103 +576,39 @@ QGroupWidgetPlugin::QGroupWidgetPlugin(QObject *parent)
     : VelaWidgetDescriptor(kQGroupWidgetPluginRow, parent)
 { }
 
-#endif
-
 QList<QDesignerCustomWidgetInterface *> CreateVelaDescriptors(QObject *parent)
 {
     QList<QDesignerCustomWidgetInterface *> descriptors;
-#if __has_include("QTransToolBtn.h")
     descriptors.append(new QTransToolBtnPlugin(parent));
-#endif
-#if __has_include("QVelaContainer.h")
     descriptors.append(new QVelaContainerPlugin(parent));
-#endif
-#if __has_include("QMouseSpinBox.h")
     descriptors.append(new QMouseSpinBoxPlugin(parent));
-#endif
-#if __has_include("QKdPickContainer.h")
     descriptors.append(new QKdPickContainerPlugin(parent));
-#endif
-#if __has_include("QDragDropListWidget.h")
     descriptors.append(new QDragDropListWidgetPlugin(parent));
-#endif
-#if __has_include("QDragDropTableWidget.h")
     descriptors.append(new QDragDropTableWidgetPlugin(parent));
-#endif
-#if __has_include("QHoverToolBtn.h")
     descriptors.append(new QHoverToolBtnPlugin(parent));
-#endif
-#if __has_include("QKdFKModifyTableManager.h")
     descriptors.append(new QKdFKModifyTableManagerPlugin(parent));
-#endif
-#if __has_include("QKdFKTemplateTableManager.h")
     descriptors.append(new QKdFKTemplateTableManagerPlugin(parent));
-#endif
-#if __has_include("QLineEditWithClear.h")
     descriptors.append(new QLineEditWithClearPlugin(parent));
-#endif
-#if __has_include("QKdPlayWidget.h")
     descriptors.append(new QKdPlayWidgetPlugin(parent));
-#endif
-#if __has_include("QStartEndIndicatorWidget.h")
     descriptors.append(new QStartEndIndicatorWidgetPlugin(parent));
-#endif
-#if __has_include("QClickableLabel.h")
     descriptors.append(new QClickableLabelPlugin(parent));
-#endif
-#if __has_include("QKdCurveWidget.h")
     descriptors.append(new QKdCurveWidgetPlugin(parent));
-#endif
-#if __has_include("QItemLabel.h")
     descriptors.append(new QItemLabelPlugin(parent));
-#endif
-#if __has_include("QColorButton.h")
     descriptors.append(new QColorButtonPlugin(parent));
-#endif
-#if __has_include("QColorButton2.h")
     descriptors.append(new QColorButtonPlugin2(parent));
-#endif
-#if __has_include("QComboSpinBox.h")
     descriptors.append(new QComboSpinBoxPlugin(parent));
-#endif
-#if __has_include("QComboDoubleSpinBox.h")
     descriptors.append(new QComboDoubleSpinBoxPlugin(parent));
-#endif
-#if __has_include("QComboNonlinearDoubleSpinBox.h")
     descriptors.append(new QComboNonlinearDoubleSpinBoxPlugin(parent));
-#endif
-#if __has_include("QComboBoxEx.h")
     descriptors.append(new QComboBoxExPlugin(parent));
-#endif
-#if __has_include("QSpinBoxEx.h")
     descriptors.append(new QSpinBoxExPlugin(parent));
-#endif
-#if __has_include("QDoubleSpinBoxEx.h")
     descriptors.append(new QDoubleSpinBoxExPlugin(parent));
-#endif
-#if __has_include("QSliderEx.h")
     descriptors.append(new QSliderExPlugin(parent));
-#endif
-#if __has_include("QVisemeButton.h")
     descriptors.append(new QVisemeButtonPlugin(parent));
-#endif
-#if __has_include("QVisemeCurveWidgetLite.h")
     descriptors.append(new QVisemeCurveWidgetLitePlugin(parent));
-#endif
-#if __has_include("QDiphoneListWidget.h")
     descriptors.append(new QDiphoneListWidgetPlugin(parent));
-#endif
-#if __has_include("QVisemeListWidget.h")
     descriptors.append(new QVisemeListWidgetPlugin(parent));
-#endif
-#if __has_include("QCurveeditor.h")
     descriptors.append(new QCurveEditorPlugin(parent));
-#endif
-#if __has_include("QVelaPushbutton.h")
     descriptors.append(new QVelaPushButtonPlugin(parent));
-#endif
-#if __has_include("QGroupWidget.h")
     descriptors.append(new QGroupWidgetPlugin(parent));
-#endif
     return descriptors;
 }
