@@ -23,7 +23,8 @@ class VELA_WIDGETS_EXPORT QGroupWidget : public QWidget
     Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
-    QGroupWidget(QWidget *parent, QString strText, bool bChecked);
+    // The defaults let uic-generated forms, which pass only the parent, create a closed group.
+    explicit QGroupWidget(QWidget *parent, QString strText = QString(), bool bChecked = false);
     ~QGroupWidget() override;
 
     QString text() const;
