@@ -17,10 +17,10 @@ int Input::integer()
     case 2:
         return -int(byte());
     case 3: {
-        int value = 0;
+        std::uint32_t value = 0;
         for (int i = 0; i < 4; ++i)
             value = (value << 8) | byte();
-        return value;
+        return int(value);
     }
     default:
         return int(byte()) - 16;
