@@ -1,64 +1,13 @@
 // Gallery page of the group widget: a material panel whose sections build their parameter and
 // image widgets only when first opened.
 #include "GalleryRegistry.h"
+#include "MaterialRecords.h"
 #include "QGroupWidget.h"
-#include "QNumericalWidgetBase.h"
 #include "QSbsImageWidget.h"
 #include "SampleMaterialImages.h"
 
-#include <QDoubleSpinBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
-#include <QSlider>
 #include <QVBoxLayout>
-
-// A minimal numerical widget of the gallery's own: a caption and one slider per component,
-// enough to show what a section holds.
-class GalleryParameterWidget : public QNumericalWidgetBase
-{
-public:
-    using QNumericalWidgetBase::QNumericalWidgetBase;
-
-    Vela::CVector4<float> GetValue() override
-    {
-        Vela::CVector4f v;
-        for (int i = 0; i < m_sliders.size(); ++i)
-            v.Set(i, m_sliders.at(i)->value() / 100.0f);
-        return v;
-    }
-
-protected:
-    void CreateUi(const Lu::CDynamicWidgetVariableBase &var,
-                  const Lu::CDynamicWidgetDescBase &desc) override
-    {
-        auto *row = new QHBoxLayout;
-        auto *caption = new QLabel(GetName(), this);
-        caption->setMinimumWidth(110);
-        row->addWidget(caption);
-        for (int i = 0; i < Vela::DynamicVariableComponentCount(var.eType); ++i) {
-            auto *slider = new QSlider(Qt::Horizontal, this);
-            slider->setRange(int(desc.afMinimum[i] * 100), int(desc.afMaximum[i] * 100));
-            slider->setValue(int(desc.afValue[i] * 100));
-            connect(slider, &QSlider::valueChanged, this,
-                    [this]() { emit ValueChanged(GetValue()); });
-            connect(slider, &QSlider::sliderReleased, this,
-                    [this]() { emit EditFinished(GetValue()); });
-            row->addWidget(slider);
-            m_sliders.append(slider);
-        }
-        layout()->addItem(row);
-    }
-
-    void UpdateUi(const Vela::CVector4<float> &v) override
-    {
-        for (int i = 0; i < m_sliders.size(); ++i)
-            m_sliders.at(i)->setValue(int(v[i] * 100));
-    }
-
-private:
-    QList<QSlider *> m_sliders;
-};
 
 static std::function<QWidget *()> parameterCreator(GalleryContext &ctx, const QString &name,
                                                    Vela::EDynamicWidgetVariableType eType,
@@ -66,24 +15,12 @@ static std::function<QWidget *()> parameterCreator(GalleryContext &ctx, const QS
 {
     return [&ctx, name, eType, fValue]() -> QWidget * {
         ctx.log(QStringLiteral("creating parameter \"%1\"").arg(name));
-        Lu::CDynamicWidgetVariableBase var;
-        var.eType = eType;
-        Lu::CDynamicWidgetDescBase desc;
-        desc.strName = name.toStdWString();
-        for (float &value : desc.afValue)
+        MaterialInput input;
+        input.var.eType = eType;
+        input.desc.strName = name.toStdWString();
+        for (float &value : input.desc.afValue)
             value = fValue;
-        auto *widget = new GalleryParameterWidget;
-        widget->Initialize(var, desc);
-        QObject::connect(widget, &QNumericalWidgetBase::EditFinished, widget,
-                         [&ctx, name](Vela::CVector4f v) {
-                             ctx.log(QStringLiteral("%1: EditFinished(%2, %3, %4, %5)")
-                                         .arg(name)
-                                         .arg(v.x)
-                                         .arg(v.y)
-                                         .arg(v.z)
-                                         .arg(v.w));
-                         });
-        return widget;
+        return MaterialRecords::CreateWidget(input, ctx);
     };
 }
 
