@@ -103,7 +103,7 @@ void tst_QNumericalWidgetColor::construction()
 
 void tst_QNumericalWidgetColor::createUi()
 {
-    auto *label = m_widget->findChild<QLabel *>();
+    auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(label);
     QCOMPARE(label->text(), QStringLiteral("Base Color :"));
     QCOMPARE(m_button->parentWidget(), m_widget);
@@ -216,7 +216,7 @@ void tst_QNumericalWidgetColor::setDesc()
     Lu::CDynamicWidgetDescBase desc;
     desc.strName = L"Tint";
     m_widget->SetDesc(var, desc);
-    auto *label = m_widget->findChild<QLabel *>();
+    auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
     // Re-describing drops the colon.
     QCOMPARE(label->text(), QStringLiteral("Tint"));
     QCOMPARE(m_widget->GetName(), QStringLiteral("Tint"));
