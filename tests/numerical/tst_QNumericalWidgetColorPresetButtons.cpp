@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QSpacerItem>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QSpacerItem>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <memory>
