@@ -1,0 +1,244 @@
+#include "../color/ColorTestSupport.h"
+#include "NumericalEditLog.h"
+#include "QColorButton.h"
+#include "QNumericalWidgetColor.h"
+#include "VelaTest.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSpacerItem>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <limits>
+#include <memory>
+
+using NumericalTest::EditLog;
+
+namespace {
+
+QColor iconColor(const QToolButton *button)
+{
+    const QImage image = button->icon().pixmap(button->iconSize()).toImage();
+    return image.isNull() ? QColor() : image.pixelColor(image.width() / 2, image.height() / 2);
+}
+
+} // namespace
+
+class tst_QNumericalWidgetColor : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void construction();
+    void createUi();
+    void valueRoundTrip_data();
+    void valueRoundTrip();
+    void acceptedDialog();
+    void cancelledDialog();
+    void pushesAreSilent();
+    void setDesc();
+    void undoRedoBeforeInitialize();
+
+private:
+    // Clicks the colour button and lets `action` act on the open dialog.
+    void runDialog(const std::function<void(QColorDialog *)> &action);
+
+    std::unique_ptr<QWidget> m_window;
+    QNumericalWidgetColor *m_widget = nullptr;
+    QColorButton *m_button = nullptr;
+};
+
+void tst_QNumericalWidgetColor::init()
+{
+    m_window.reset(new QWidget);
+    auto *layout = new QVBoxLayout(m_window.get());
+    m_widget = new QNumericalWidgetColor;
+    layout->addWidget(m_widget);
+
+    Lu::CDynamicWidgetVariableBase var;
+    var.eType = Vela::DynamicVariable_Float4;
+    var.vValue = Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f);
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Base Color";
+    desc.eBehaviorType = Vela::DynamicBehavior_Color;
+    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    m_button = m_widget->findChild<QColorButton *>();
+    QVERIFY(m_button);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_QNumericalWidgetColor::cleanup()
+{
+    m_window.reset();
+    m_button = nullptr;
+    m_widget = nullptr;
+}
+
+void tst_QNumericalWidgetColor::runDialog(const std::function<void(QColorDialog *)> &action)
+{
+    bool ran = false;
+    ColorTest::onModal(
+        [&](QDialog *dialog) {
+            QCOMPARE(dialog, static_cast<QDialog *>(m_button->ColorDialogUi()));
+            action(m_button->ColorDialogUi());
+        },
+        &ran);
+    QTest::mouseClick(m_button, Qt::LeftButton);
+    QVERIFY(ran);
+    QVERIFY(!m_button->ColorDialogUi()->isVisible());
+}
+
+void tst_QNumericalWidgetColor::construction()
+{
+    QNumericalWidgetColor widget;
+    QVERIFY(widget.children().isEmpty());
+    QVERIFY(!widget.layout());
+    // No button yet: black, opaque.
+    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f(0, 0, 0, 1));
+}
+
+void tst_QNumericalWidgetColor::createUi()
+{
+    auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+    QVERIFY(label);
+    QCOMPARE(label->text(), QStringLiteral("Base Color :"));
+    QCOMPARE(m_button->parentWidget(), m_widget);
+    QCOMPARE(m_button->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(m_button->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(m_button->iconSize(), QSize(60, 25));
+    QCOMPARE(iconColor(m_button), QColor(127, 63, 255));
+
+    auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
+    QVERIFY(row);
+    QCOMPARE(row->count(), 3);
+    QCOMPARE(row->itemAt(0)->widget(), label);
+    QSpacerItem *spacer = row->itemAt(1)->spacerItem();
+    QVERIFY(spacer);
+    QCOMPARE(spacer->sizeHint(), QSize(10, 10));
+    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(row->itemAt(2)->widget(), m_button);
+}
+
+void tst_QNumericalWidgetColor::valueRoundTrip_data()
+{
+    QTest::addColumn<Vela::CVector4f>("value");
+    QTest::addColumn<QColor>("color");
+    QTest::addColumn<Vela::CVector4f>("readBack");
+    QTest::newRow("truncated") << Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f) << QColor(127, 63, 255)
+                               << Vela::CVector4f(0.498f, 0.247f, 1.0f, 1.0f);
+    QTest::newRow("black") << Vela::CVector4f() << QColor(0, 0, 0) << Vela::CVector4f(0, 0, 0, 1);
+    QTest::newRow("white") << Vela::CVector4f(1, 1, 1, 1) << QColor(255, 255, 255)
+                           << Vela::CVector4f(1, 1, 1, 1);
+    QTest::newRow("out of range") << Vela::CVector4f(2.0f, -1.0f, 1e30f, -5.0f)
+                                  << QColor(255, 0, 255) << Vela::CVector4f(1, 0, 1, 1);
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float inf = std::numeric_limits<float>::infinity();
+    QTest::newRow("not finite") << Vela::CVector4f(nan, inf, -inf, nan) << QColor(0, 255, 0)
+                                << Vela::CVector4f(0, 1, 0, 1);
+}
+
+void tst_QNumericalWidgetColor::valueRoundTrip()
+{
+    QFETCH(Vela::CVector4f, value);
+    QFETCH(QColor, color);
+    QFETCH(Vela::CVector4f, readBack);
+    m_widget->UpdateInputValue(value);
+    QCOMPARE(m_button->GetColor(), color);
+    QVERIFY2(NumericalTest::nearlyEqual(m_widget->GetValue(), readBack),
+             qPrintable(NumericalTest::toText(m_widget->GetValue())));
+    QCOMPARE(m_widget->GetValue().w, 1.0f);
+}
+
+void tst_QNumericalWidgetColor::acceptedDialog()
+{
+    QStringList calls;
+    m_widget->SetUndoRedoFunctions(
+        [&] { calls << QStringLiteral("begin"); }, [&] { calls << QStringLiteral("end"); },
+        [&] { calls << QStringLiteral("accepted"); }, [&] { calls << QStringLiteral("reverted"); });
+    EditLog log(m_widget);
+    runDialog([&](QColorDialog *dialog) {
+        QCOMPARE(dialog->currentColor(), QColor(127, 63, 255));
+        dialog->setCurrentColor(QColor(0, 255, 51));
+        // The widget follows the dialog live.
+        QCOMPARE(log.names, NumericalTest::oneEdit());
+        dialog->accept();
+    });
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    const Vela::CVector4f expected(0.0f, 1.0f, 0.2f, 1.0f);
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), expected);
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), expected);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), expected);
+    QCOMPARE(calls,
+             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
+                            QStringLiteral("accepted") }));
+}
+
+void tst_QNumericalWidgetColor::cancelledDialog()
+{
+    const Vela::CVector4f before = m_widget->GetValue();
+    EditLog log(m_widget);
+    runDialog([&](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::red));
+        dialog->reject();
+    });
+    // The live change and its reversal are both edits of their own.
+    QCOMPARE(log.names, NumericalTest::oneEdit() + NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(1, 0, 0, 1));
+    NUMERICAL_COMPARE_VECTOR(log.values.at(3), before);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), before);
+
+    log.clear();
+    runDialog([](QColorDialog *dialog) { dialog->reject(); });
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetColor::pushesAreSilent()
+{
+    EditLog log(m_widget);
+    m_widget->UpdateInputValue(Vela::CVector4f(1, 0, 0, 1));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
+    m_widget->SetValue(Vela::CVector4f(0, 0, 1, 0));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
+    QCOMPARE(iconColor(m_button), QColor(Qt::blue));
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetColor::setDesc()
+{
+    EditLog log(m_widget);
+    Lu::CDynamicWidgetVariableBase var;
+    var.vValue = Vela::CVector4f(0, 1, 0, 1);
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Tint";
+    m_widget->SetDesc(var, desc);
+    auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+    // Re-describing drops the colon.
+    QCOMPARE(label->text(), QStringLiteral("Tint"));
+    QCOMPARE(m_widget->GetName(), QStringLiteral("Tint"));
+    QCOMPARE(m_button->GetColor(), QColor(Qt::green));
+    QCOMPARE(m_widget->findChildren<QColorButton *>().size(), 1);
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetColor::undoRedoBeforeInitialize()
+{
+    QNumericalWidgetColor widget;
+    int calls = 0;
+    widget.SetUndoRedoFunctions([&] { ++calls; }, {}, {}, {});
+    // Re-describing an unbuilt widget only copies the fields.
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Later";
+    widget.SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
+    QCOMPARE(widget.GetName(), QStringLiteral("Later"));
+    QVERIFY(widget.children().isEmpty());
+    QCOMPARE(calls, 0);
+}
+
+VELA_TEST_CLASS(tst_QNumericalWidgetColor)
+#include "tst_QNumericalWidgetColor.moc"

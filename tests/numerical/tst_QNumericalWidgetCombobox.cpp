@@ -1,0 +1,299 @@
+#include "NumericalEditLog.h"
+#include "QComboBoxEx.h"
+#include "QNumericalWidgetCombobox.h"
+#include "VelaTest.h"
+
+#include <QAbstractItemView>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <limits>
+#include <memory>
+
+using NumericalTest::EditLog;
+
+namespace {
+
+Lu::CDynamicWidgetDescBase choices(Vela::CMap<int, std::string> labels,
+                                   const QString &name = QStringLiteral("Quality"))
+{
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = name.toStdWString();
+    desc.eBehaviorType = Vela::DynamicBehavior_ComboBox;
+    desc.mapLabels = std::move(labels);
+    return desc;
+}
+
+QStringList itemTexts(const QComboBox *combo)
+{
+    QStringList texts;
+    for (int i = 0; i < combo->count(); ++i)
+        texts << combo->itemText(i);
+    return texts;
+}
+
+QList<int> itemValues(const QComboBox *combo)
+{
+    QList<int> values;
+    for (int i = 0; i < combo->count(); ++i)
+        values << combo->itemData(i, Qt::UserRole).toInt();
+    return values;
+}
+
+} // namespace
+
+class tst_QNumericalWidgetCombobox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void construction();
+    void createUi();
+    void pushValue_data();
+    void pushValue();
+    void chooseWithKeyboard();
+    void chooseWithMouse();
+    void wheelOnlyWhenFocused();
+    void setValueIsSilent();
+    void setDescRefills();
+    void setDescWithOtherCount();
+    void noChoices();
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    QNumericalWidgetCombobox *m_widget = nullptr;
+    QComboBoxEx *m_combo = nullptr;
+};
+
+void tst_QNumericalWidgetCombobox::init()
+{
+    m_window.reset(new QWidget);
+    auto *layout = new QVBoxLayout(m_window.get());
+    // Focus rests elsewhere in the panel, as when the user has not touched the drop-down yet.
+    layout->addWidget(new QLineEdit);
+    m_widget = new QNumericalWidgetCombobox;
+    layout->addWidget(m_widget);
+    EditLog log(m_widget);
+    Lu::CDynamicWidgetVariableBase var;
+    var.eType = Vela::DynamicVariable_Integer1;
+    // The current value is not read: the first choice is current until the host pushes one.
+    var.vValue = Vela::CVector4f(5, 0, 0, 0);
+    QCOMPARE(m_widget->Initialize(var, choices({ { 5, "High" }, { 2, "Low" } })).code(), 0u);
+    QVERIFY(log.names.isEmpty());
+    m_combo = m_widget->findChild<QComboBoxEx *>();
+    QVERIFY(m_combo);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_QNumericalWidgetCombobox::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_QNumericalWidgetCombobox::construction()
+{
+    QNumericalWidgetCombobox widget;
+    QVERIFY(widget.children().isEmpty());
+    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
+    // Pushing into or re-describing an unbuilt widget builds nothing.
+    widget.SetValue(Vela::CVector4f(2, 0, 0, 0));
+    widget.SetDesc(Lu::CDynamicWidgetVariableBase(), choices({ { 1, "One" } }));
+    QVERIFY(widget.children().isEmpty());
+    QCOMPARE(widget.GetName(), QStringLiteral("Quality"));
+}
+
+void tst_QNumericalWidgetCombobox::createUi()
+{
+    QCOMPARE(itemTexts(m_combo), (QStringList { QStringLiteral("Low"), QStringLiteral("High") }));
+    QCOMPARE(itemValues(m_combo), (QList<int> { 2, 5 }));
+    QCOMPARE(m_combo->currentIndex(), 0);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(2, 0, 0, 0));
+    QVERIFY(!m_combo->IgnoreWheelEvent());
+    QCOMPARE(m_combo->focusPolicy(), Qt::StrongFocus);
+    QCOMPARE(m_combo->parentWidget(), m_widget);
+
+    auto *label = m_widget->findChild<QLabel *>();
+    QVERIFY(label);
+    // The caption is the bare name.
+    QCOMPARE(label->text(), QStringLiteral("Quality"));
+    auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
+    QVERIFY(row);
+    QCOMPARE(row->count(), 2);
+    QCOMPARE(row->itemAt(0)->widget(), label);
+    QCOMPARE(row->itemAt(1)->widget(), m_combo);
+}
+
+void tst_QNumericalWidgetCombobox::pushValue_data()
+{
+    QTest::addColumn<float>("x");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<float>("reported");
+    QTest::newRow("exact") << 5.0f << 1 << 5.0f;
+    QTest::newRow("truncated") << 5.9f << 1 << 5.0f;
+    QTest::newRow("low") << 2.0f << 0 << 2.0f;
+    QTest::newRow("no such choice") << 3.0f << -1 << 0.0f;
+    QTest::newRow("toward zero") << -0.5f << -1 << 0.0f;
+    QTest::newRow("negative") << -5.0f << -1 << 0.0f;
+    QTest::newRow("huge") << 1e30f << -1 << 0.0f;
+    QTest::newRow("nan") << std::numeric_limits<float>::quiet_NaN() << -1 << 0.0f;
+}
+
+void tst_QNumericalWidgetCombobox::pushValue()
+{
+    QFETCH(float, x);
+    QFETCH(int, index);
+    QFETCH(float, reported);
+    EditLog log(m_widget);
+    QSignalSpy comboChanged(m_combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
+    m_widget->UpdateInputValue(Vela::CVector4f(x, 7, 7, 7));
+    QCOMPARE(m_combo->currentIndex(), index);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(reported, 0, 0, 0));
+    QVERIFY(log.names.isEmpty());
+    QCOMPARE(comboChanged.count(), 0);
+    QVERIFY(!m_combo->signalsBlocked());
+}
+
+void tst_QNumericalWidgetCombobox::chooseWithKeyboard()
+{
+    m_combo->setFocus();
+    QTRY_VERIFY(m_combo->hasFocus());
+    EditLog log(m_widget);
+    QTest::keyClick(m_combo, Qt::Key_Down);
+    QCOMPARE(m_combo->currentText(), QStringLiteral("High"));
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(5, 0, 0, 0));
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(5, 0, 0, 0));
+
+    // Past the last entry nothing changes and nothing is reported.
+    log.clear();
+    QTest::keyClick(m_combo, Qt::Key_Down);
+    QVERIFY(log.names.isEmpty());
+
+    QTest::keyClick(m_combo, Qt::Key_Up);
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(2, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetCombobox::chooseWithMouse()
+{
+    EditLog log(m_widget);
+    QTest::mouseClick(m_combo, Qt::LeftButton);
+    QAbstractItemView *view = m_combo->view();
+    QTRY_VERIFY(view->isVisible());
+    const QRect rect = view->visualRect(m_combo->model()->index(1, 0));
+    // A release right after the press that opened the list counts as part of that click, so the
+    // choice comes a double-click interval later, as a user's would.
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(view->viewport()->width() / 2, rect.center().y()),
+                      QApplication::doubleClickInterval() + 50);
+    QTRY_VERIFY(!view->isVisible());
+    QCOMPARE(m_combo->currentIndex(), 1);
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(5, 0, 0, 0));
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(5, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetCombobox::wheelOnlyWhenFocused()
+{
+    EditLog log(m_widget);
+    // Scrolling a panel past the drop-down does not change it.
+    VelaTest::wheel(m_combo, -1);
+    QCOMPARE(m_combo->currentIndex(), 0);
+    QVERIFY(log.names.isEmpty());
+
+    m_combo->setFocus();
+    QTRY_VERIFY(m_combo->hasFocus());
+    VelaTest::wheel(m_combo, -1);
+    QCOMPARE(m_combo->currentIndex(), 1);
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(5, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetCombobox::setValueIsSilent()
+{
+    EditLog log(m_widget);
+    m_widget->SetValue(Vela::CVector4f(5, 0, 0, 0));
+    QCOMPARE(m_combo->currentIndex(), 1);
+    m_widget->SetValue(Vela::CVector4f(2, 0, 0, 0));
+    QCOMPARE(m_combo->currentIndex(), 0);
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetCombobox::setDescRefills()
+{
+    m_widget->SetValue(Vela::CVector4f(5, 0, 0, 0));
+    m_combo->blockSignals(true);
+    EditLog log(m_widget);
+    m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(),
+                      choices({ { 0, "Draft" }, { 9, "Final" } }, QStringLiteral("Preset")));
+    // The previous blocking state comes back.
+    QVERIFY(m_combo->signalsBlocked());
+    m_combo->blockSignals(false);
+    m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(),
+                      choices({ { 1, "Coarse" }, { 4, "Fine" } }, QStringLiteral("Detail")));
+    QVERIFY(!m_combo->signalsBlocked());
+
+    QCOMPARE(itemTexts(m_combo),
+             (QStringList { QStringLiteral("Coarse"), QStringLiteral("Fine") }));
+    QCOMPARE(itemValues(m_combo), (QList<int> { 1, 4 }));
+    QCOMPARE(m_combo->currentIndex(), 0);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
+    QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Detail"));
+    QCOMPARE(m_widget->findChildren<QComboBoxEx *>().size(), 1);
+    QVERIFY(log.names.isEmpty());
+
+    // The refilled drop-down still reports the user's choices.
+    m_combo->setFocus();
+    QTRY_VERIFY(m_combo->hasFocus());
+    QTest::keyClick(m_combo, Qt::Key_Down);
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(4, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetCombobox::setDescWithOtherCount()
+{
+    EditLog log(m_widget);
+    m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(),
+                      choices({ { 1, "A" }, { 2, "B" }, { 3, "C" } }, QStringLiteral("Mode")));
+    // A second drop-down and caption are built below the first ones, which stay.
+    const QList<QComboBoxEx *> combos = m_widget->findChildren<QComboBoxEx *>();
+    QCOMPARE(combos.size(), 2);
+    QCOMPARE(itemTexts(m_combo), (QStringList { QStringLiteral("Low"), QStringLiteral("High") }));
+    QComboBoxEx *second = combos.at(0) == m_combo ? combos.at(1) : combos.at(0);
+    QCOMPARE(itemTexts(second),
+             (QStringList { QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C") }));
+    QCOMPARE(m_widget->layout()->count(), 2);
+    QCOMPARE(m_widget->layout()->itemAt(1)->layout()->itemAt(1)->widget(), second);
+    auto *label =
+        qobject_cast<QLabel *>(m_widget->layout()->itemAt(1)->layout()->itemAt(0)->widget());
+    QVERIFY(label);
+    QCOMPARE(label->text(), QStringLiteral("Mode"));
+    // The widget now reads and follows the newer drop-down.
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
+    m_widget->UpdateInputValue(Vela::CVector4f(3, 0, 0, 0));
+    QCOMPARE(second->currentIndex(), 2);
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetCombobox::noChoices()
+{
+    QNumericalWidgetCombobox widget;
+    widget.Initialize(Lu::CDynamicWidgetVariableBase(), choices({}));
+    auto *combo = widget.findChild<QComboBoxEx *>();
+    QVERIFY(combo);
+    QCOMPARE(combo->count(), 0);
+    QCOMPARE(combo->currentIndex(), -1);
+    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
+    widget.UpdateInputValue(Vela::CVector4f(1, 0, 0, 0));
+    QCOMPARE(combo->currentIndex(), -1);
+}
+
+VELA_TEST_CLASS(tst_QNumericalWidgetCombobox)
+#include "tst_QNumericalWidgetCombobox.moc"

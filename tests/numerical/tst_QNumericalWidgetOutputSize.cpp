@@ -1,0 +1,183 @@
+#include "NumericalEditLog.h"
+#include "QComboBoxEx.h"
+#include "QNumericalWidgetOutputSize.h"
+#include "VelaTest.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSpacerItem>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <memory>
+
+using NumericalTest::EditLog;
+
+class tst_QNumericalWidgetOutputSize : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void createUi();
+    void entries_data();
+    void entries();
+    void pushValue_data();
+    void pushValue();
+    void chooseWithKeyboard();
+    void setDescKeepsEntries();
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    QNumericalWidgetOutputSize *m_widget = nullptr;
+    QComboBoxEx *m_combo = nullptr;
+};
+
+void tst_QNumericalWidgetOutputSize::init()
+{
+    m_window.reset(new QWidget);
+    auto *layout = new QVBoxLayout(m_window.get());
+    layout->addWidget(new QLineEdit);
+    m_widget = new QNumericalWidgetOutputSize;
+    layout->addWidget(m_widget);
+    EditLog log(m_widget);
+    Lu::CDynamicWidgetVariableBase var;
+    var.eType = Vela::DynamicVariable_Integer2;
+    var.vValue = Vela::CVector4f(10, 10, 0, 0);
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"$outputsize";
+    desc.eBehaviorType = Vela::DynamicBehavior_OutputSize;
+    // Choices and ranges of the description are not read.
+    desc.mapLabels = { { 1, "Ignored" } };
+    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    QVERIFY(log.names.isEmpty());
+    m_combo = m_widget->findChild<QComboBoxEx *>();
+    QVERIFY(m_combo);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_QNumericalWidgetOutputSize::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_QNumericalWidgetOutputSize::createUi()
+{
+    auto *label = m_widget->findChild<QLabel *>();
+    QVERIFY(label);
+    QCOMPARE(label->text(), QStringLiteral("Output Size :"));
+    QCOMPARE(label->objectName(), QStringLiteral("SbsNumericalOutputSizeLabel"));
+    QCOMPARE(m_widget->findChildren<QLabel *>().size(), 1);
+    QCOMPARE(m_combo->parentWidget(), m_widget);
+    QVERIFY(!m_combo->IgnoreWheelEvent());
+    QCOMPARE(m_combo->focusPolicy(), Qt::StrongFocus);
+    QCOMPARE(m_combo->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(m_combo->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(m_combo->sizePolicy().controlType(), QSizePolicy::ComboBox);
+    QCOMPARE(m_combo->count(), 10);
+    // The first entry is current until the host pushes a value.
+    QCOMPARE(m_combo->currentIndex(), 0);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 3, 0, 0));
+
+    auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
+    QVERIFY(row);
+    QCOMPARE(row->count(), 3);
+    QCOMPARE(row->itemAt(0)->widget(), label);
+    QSpacerItem *spacer = row->itemAt(1)->spacerItem();
+    QVERIFY(spacer);
+    QCOMPARE(spacer->sizeHint(), QSize(10, 10));
+    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(row->itemAt(2)->widget(), m_combo);
+}
+
+void tst_QNumericalWidgetOutputSize::entries_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("exponent");
+    const char *const texts[] = { "8x8",     "16x16",   "32x32",     "64x64",     "128x128",
+                                  "256x256", "512x512", "1024x1024", "2048x2048", "4096x4096" };
+    for (int i = 0; i < 10; ++i)
+        QTest::newRow(texts[i]) << i << QString::fromLatin1(texts[i]) << i + 3;
+}
+
+void tst_QNumericalWidgetOutputSize::entries()
+{
+    QFETCH(int, index);
+    QFETCH(QString, text);
+    QFETCH(int, exponent);
+    QCOMPARE(m_combo->itemText(index), text);
+    QCOMPARE(m_combo->itemData(index, Qt::UserRole), QVariant(exponent));
+
+    m_widget->UpdateInputValue(Vela::CVector4f(float(exponent), 0, 0, 0));
+    QCOMPARE(m_combo->currentIndex(), index);
+    const float e = float(exponent);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(e, e, 0, 0));
+}
+
+void tst_QNumericalWidgetOutputSize::pushValue_data()
+{
+    QTest::addColumn<Vela::CVector4f>("value");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Vela::CVector4f>("reported");
+    QTest::newRow("512") << Vela::CVector4f(9, 0, 0, 0) << "512x512" << Vela::CVector4f(9, 9, 0, 0);
+    QTest::newRow("y ignored") << Vela::CVector4f(11.7f, 4, 0, 0) << "2048x2048"
+                               << Vela::CVector4f(11, 11, 0, 0);
+    QTest::newRow("too small") << Vela::CVector4f(2, 2, 0, 0) << QString() << Vela::CVector4f();
+    QTest::newRow("too large") << Vela::CVector4f(13, 13, 0, 0) << QString() << Vela::CVector4f();
+}
+
+void tst_QNumericalWidgetOutputSize::pushValue()
+{
+    QFETCH(Vela::CVector4f, value);
+    QFETCH(QString, text);
+    QFETCH(Vela::CVector4f, reported);
+    EditLog log(m_widget);
+    m_widget->SetValue(value);
+    QCOMPARE(m_combo->currentText(), text);
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), reported);
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetOutputSize::chooseWithKeyboard()
+{
+    m_combo->setFocus();
+    QTRY_VERIFY(m_combo->hasFocus());
+    EditLog log(m_widget);
+    QTest::keyClick(m_combo, Qt::Key_End);
+    QCOMPARE(m_combo->currentText(), QStringLiteral("4096x4096"));
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(12, 12, 0, 0));
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(12, 12, 0, 0));
+
+    log.clear();
+    QTest::keyClick(m_combo, Qt::Key_Up);
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(11, 11, 0, 0));
+}
+
+void tst_QNumericalWidgetOutputSize::setDescKeepsEntries()
+{
+    m_widget->SetValue(Vela::CVector4f(9, 9, 0, 0));
+    EditLog log(m_widget);
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Resolution";
+    desc.mapLabels = { { 1, "A" }, { 2, "B" } };
+    desc.bTriggerBake = true;
+    m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
+    QCOMPARE(m_widget->GetName(), QStringLiteral("Resolution"));
+    QVERIFY(m_widget->IsTriggerBake());
+    QCOMPARE(m_widget->findChildren<QComboBoxEx *>().size(), 1);
+    QCOMPARE(m_combo->count(), 10);
+    QCOMPARE(m_combo->currentText(), QStringLiteral("512x512"));
+    QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Output Size :"));
+    QVERIFY(log.names.isEmpty());
+}
+
+VELA_TEST_CLASS(tst_QNumericalWidgetOutputSize)
+#include "tst_QNumericalWidgetOutputSize.moc"

@@ -1,0 +1,232 @@
+#include "NumericalEditLog.h"
+#include "QNumericalWidgetToggleButton.h"
+#include "VelaTest.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <limits>
+#include <memory>
+
+using NumericalTest::EditLog;
+
+namespace {
+
+// Where a user clicks a check box: on its indicator.
+QPoint indicatorCenter(QCheckBox *box)
+{
+    QStyleOptionButton option;
+    option.initFrom(box);
+    return box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box).center();
+}
+
+} // namespace
+
+class tst_QNumericalWidgetToggleButton : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void construction();
+    void createUi();
+    void click();
+    void keyboard();
+    void pushValue_data();
+    void pushValue();
+    void reportedValue_data();
+    void reportedValue();
+    void setCheckedValueChangesNothingOnScreen();
+    void setDescReappliesValue();
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    QNumericalWidgetToggleButton *m_widget = nullptr;
+    QCheckBox *m_box = nullptr;
+};
+
+void tst_QNumericalWidgetToggleButton::init()
+{
+    m_window.reset(new QWidget);
+    auto *layout = new QVBoxLayout(m_window.get());
+    layout->addWidget(new QLineEdit);
+    m_widget = new QNumericalWidgetToggleButton;
+    layout->addWidget(m_widget);
+    EditLog log(m_widget);
+    Lu::CDynamicWidgetVariableBase var;
+    var.eType = Vela::DynamicVariable_Boolean;
+    // The current value is not read when building: the box starts unchecked.
+    var.vValue = Vela::CVector4f(1, 0, 0, 0);
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Invert Normal";
+    desc.eBehaviorType = Vela::DynamicBehavior_ToggleButton;
+    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    QVERIFY(log.names.isEmpty());
+    m_box = m_widget->findChild<QCheckBox *>();
+    QVERIFY(m_box);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void tst_QNumericalWidgetToggleButton::cleanup()
+{
+    m_window.reset();
+}
+
+void tst_QNumericalWidgetToggleButton::construction()
+{
+    QNumericalWidgetToggleButton widget;
+    QVERIFY(widget.children().isEmpty());
+    QVERIFY(!widget.IsChecked());
+    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
+    // Without a check box there is nothing to show a value in.
+    Lu::CDynamicWidgetVariableBase var;
+    var.vValue = Vela::CVector4f(1, 0, 0, 0);
+    widget.SetDesc(var, Lu::CDynamicWidgetDescBase());
+    widget.SetValue(var.vValue);
+    QVERIFY(!widget.IsChecked());
+    QVERIFY(widget.children().isEmpty());
+}
+
+void tst_QNumericalWidgetToggleButton::createUi()
+{
+    QCOMPARE(m_box->text(), QStringLiteral("Invert Normal"));
+    QCOMPARE(m_box->parentWidget(), m_widget);
+    QCOMPARE(m_widget->layout()->count(), 1);
+    QCOMPARE(m_widget->layout()->itemAt(0)->widget(), m_box);
+    QVERIFY(!m_box->isChecked());
+    QVERIFY(!m_widget->IsChecked());
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f());
+}
+
+void tst_QNumericalWidgetToggleButton::click()
+{
+    EditLog log(m_widget);
+    QTest::mouseClick(m_box, Qt::LeftButton, Qt::NoModifier, indicatorCenter(m_box));
+    QVERIFY(m_widget->IsChecked());
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(1, 0, 0, 0));
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(1, 0, 0, 0));
+
+    log.clear();
+    QTest::mouseClick(m_box, Qt::LeftButton, Qt::NoModifier, indicatorCenter(m_box));
+    QVERIFY(!m_widget->IsChecked());
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f());
+}
+
+void tst_QNumericalWidgetToggleButton::keyboard()
+{
+    m_widget->SetCheckedValue(5.0f, 2.0f);
+    m_box->setFocus();
+    QTRY_VERIFY(m_box->hasFocus());
+    EditLog log(m_widget);
+    QTest::keyClick(m_box, Qt::Key_Space);
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(5, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetToggleButton::pushValue_data()
+{
+    QTest::addColumn<float>("onValue");
+    QTest::addColumn<float>("offValue");
+    QTest::addColumn<float>("x");
+    QTest::addColumn<bool>("checked");
+    QTest::newRow("on") << 1.0f << 0.0f << 1.0f << true;
+    QTest::newRow("within tolerance") << 1.0f << 0.0f << 0.999995f << true;
+    QTest::newRow("just outside") << 1.0f << 0.0f << 0.9999f << false;
+    QTest::newRow("half") << 1.0f << 0.0f << 0.5f << false;
+    QTest::newRow("off") << 1.0f << 0.0f << 0.0f << false;
+    QTest::newRow("neither on nor off") << 3.0f << 2.0f << 7.0f << false;
+    QTest::newRow("fractional on-value") << 0.7f << 0.0f << 0.7f << true;
+    QTest::newRow("nan") << 1.0f << 0.0f << std::numeric_limits<float>::quiet_NaN() << false;
+    QTest::newRow("infinite") << 1.0f << 0.0f << std::numeric_limits<float>::infinity() << false;
+}
+
+void tst_QNumericalWidgetToggleButton::pushValue()
+{
+    QFETCH(float, onValue);
+    QFETCH(float, offValue);
+    QFETCH(float, x);
+    QFETCH(bool, checked);
+    m_widget->SetCheckedValue(onValue, offValue);
+    // Start from the opposite state so that every row really moves the box.
+    m_box->setChecked(!checked);
+    EditLog log(m_widget);
+    m_widget->SetValue(Vela::CVector4f(x, 1, 1, 1));
+    QCOMPARE(m_widget->IsChecked(), checked);
+    QCOMPARE(m_box->isChecked(), checked);
+    QVERIFY(log.names.isEmpty());
+    QVERIFY(!m_box->signalsBlocked());
+}
+
+void tst_QNumericalWidgetToggleButton::reportedValue_data()
+{
+    QTest::addColumn<float>("onValue");
+    QTest::addColumn<float>("offValue");
+    QTest::addColumn<float>("checkedReport");
+    QTest::addColumn<float>("uncheckedReport");
+    QTest::newRow("defaults") << 1.0f << 0.0f << 1.0f << 0.0f;
+    QTest::newRow("on-value 1.9") << 1.9f << 0.0f << 1.0f << 0.0f;
+    QTest::newRow("on-value 0.7") << 0.7f << 0.0f << 0.0f << 0.0f;
+    QTest::newRow("negative off-value") << 4.0f << -2.5f << 4.0f << -2.0f;
+    QTest::newRow("huge") << 1e30f << -1e30f << float(INT_MAX) << float(INT_MIN);
+}
+
+void tst_QNumericalWidgetToggleButton::reportedValue()
+{
+    QFETCH(float, onValue);
+    QFETCH(float, offValue);
+    QFETCH(float, checkedReport);
+    QFETCH(float, uncheckedReport);
+    m_widget->SetCheckedValue(onValue, offValue);
+    m_widget->UpdateInputValue(Vela::CVector4f(onValue, 0, 0, 0));
+    QVERIFY(m_widget->IsChecked());
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(checkedReport, 0, 0, 0));
+
+    EditLog log(m_widget);
+    QTest::mouseClick(m_box, Qt::LeftButton, Qt::NoModifier, indicatorCenter(m_box));
+    QCOMPARE(log.names, NumericalTest::oneEdit());
+    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(uncheckedReport, 0, 0, 0));
+    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(uncheckedReport, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetToggleButton::setCheckedValueChangesNothingOnScreen()
+{
+    m_widget->UpdateInputValue(Vela::CVector4f(1, 0, 0, 0));
+    QVERIFY(m_widget->IsChecked());
+    EditLog log(m_widget);
+    m_widget->SetCheckedValue(3.0f, 1.0f);
+    // Still checked, now reporting the new on-value.
+    QVERIFY(m_widget->IsChecked());
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 0, 0, 0));
+    QVERIFY(log.names.isEmpty());
+}
+
+void tst_QNumericalWidgetToggleButton::setDescReappliesValue()
+{
+    EditLog log(m_widget);
+    Lu::CDynamicWidgetVariableBase var;
+    var.vValue = Vela::CVector4f(0.999995f, 0, 0, 0);
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Flip Green";
+    m_widget->SetDesc(var, desc);
+    QCOMPARE(m_box->text(), QStringLiteral("Flip Green"));
+    QVERIFY(m_widget->IsChecked());
+    QCOMPARE(m_widget->findChildren<QCheckBox *>().size(), 1);
+
+    var.vValue = Vela::CVector4f(0.5f, 0, 0, 0);
+    m_widget->SetDesc(var, desc);
+    QVERIFY(!m_widget->IsChecked());
+    QVERIFY(log.names.isEmpty());
+}
+
+VELA_TEST_CLASS(tst_QNumericalWidgetToggleButton)
+#include "tst_QNumericalWidgetToggleButton.moc"
