@@ -33,6 +33,7 @@ private slots:
     void pushedValuesAreSilent();
     void nonNumericType();
     void setDescKeepsEditors();
+    void destroyWhileTyping();
 
 private:
     QNumericalMouseSpinbox *build(int type, const Lu::CDynamicWidgetDescBase &desc);
@@ -269,6 +270,22 @@ void tst_QNumericalMouseSpinbox::setDescKeepsEditors()
     QCOMPARE(int(m_widget->GetInputType()), 3);
     QCOMPARE(spinBoxes().size(), 2);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(1, 2, 0, 0));
+    QVERIFY(log.entries.isEmpty());
+}
+
+void tst_QNumericalMouseSpinbox::destroyWhileTyping()
+{
+    QVERIFY(build(1, description(L"Tiling", 0.0f, 1.0f, {})));
+    QMouseSpinBox *spin = spinBoxes().at(1);
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QTest::keyClick(spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin, QStringLiteral("4."));
+    SignalLog log(m_widget);
+    // The half-typed text is committed while the window goes away; nothing reaches the host.
+    delete m_window;
+    m_window = nullptr;
+    m_widget = nullptr;
     QVERIFY(log.entries.isEmpty());
 }
 

@@ -109,9 +109,9 @@ void tst_QNumericalWidgetMultiLevelSlider::constructionBuildsNothing()
 void tst_QNumericalWidgetMultiLevelSlider::componentCount()
 {
     using W = QNumericalWidgetMultiLevelSlider;
-    QCOMPARE(W::GetSliderCount(Vela::DynamicVariable_Float3), 3u);
-    QCOMPARE(W::GetSliderCount(Vela::DynamicVariable_Integer2), 2u);
-    QCOMPARE(W::GetSliderCount(Vela::DynamicVariable_Image), 0u);
+    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Float3), 3u);
+    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Integer2), 2u);
+    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Image), 0u);
     QVERIFY(W::IsFloatType(Vela::DynamicVariable_Float4));
     QVERIFY(!W::IsFloatType(Vela::DynamicVariable_Integer1));
 }

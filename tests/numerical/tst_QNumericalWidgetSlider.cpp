@@ -48,6 +48,7 @@ private slots:
     void setDecimalsKeepsIndependentSpinRange();
     void setDescReappliesToSameCount();
     void setDescWithOtherCountAddsEditors();
+    void destroyWhileTyping();
 
 private:
     // Builds the widget from the records in a shown window, with the focus elsewhere.
@@ -138,7 +139,7 @@ void tst_QNumericalWidgetSlider::componentCount()
     QFETCH(unsigned int, count);
     QFETCH(bool, isFloat);
     const auto eType = static_cast<Vela::EDynamicWidgetVariableType>(type);
-    QCOMPARE(QNumericalWidgetSlider::GetSliderCount(eType), count);
+    QCOMPARE(QNumericalWidgetSlider::SliderCount(eType), count);
     QCOMPARE(QNumericalWidgetSlider::IsFloatType(eType), isFloat);
 }
 
@@ -205,7 +206,7 @@ void tst_QNumericalWidgetSlider::stepsAndDecimals()
     desc.uDecimals = static_cast<std::uint8_t>(descDecimals);
     QVERIFY(build(type, desc));
     QCOMPARE(unsigned(m_widget->GetComboSpins().size()),
-             QNumericalWidgetSlider::GetSliderCount(Vela::EDynamicWidgetVariableType(type)));
+             QNumericalWidgetSlider::SliderCount(Vela::EDynamicWidgetVariableType(type)));
     for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
         QCOMPARE(editor->Decimals(), decimals);
         QCOMPARE(editor->SingleStep(), spinStep);
@@ -551,6 +552,24 @@ void tst_QNumericalWidgetSlider::setDescWithOtherCountAddsEditors()
     COMBO_TYPE_INTO(m_widget->GetComboSpins().at(0)->UI()->qtDoubleSpinBox, "0.75");
     QCOMPARE(log.entries.filter(QStringLiteral("EditFinished")).size(), 1);
     QCOMPARE(log.entries.last(), editFinished(0.75f, 0.1f, 0.2f));
+}
+
+void tst_QNumericalWidgetSlider::destroyWhileTyping()
+{
+    QVERIFY(build(1, description(L"Offset", 0.0f, 10.0f, { 1, 2 })));
+    QDoubleSpinBoxEx *spin = m_widget->GetComboSpins().at(1)->UI()->qtDoubleSpinBox;
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QTest::keyClick(spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin, QStringLiteral("4."));
+    SignalLog log(m_widget);
+    // Hiding the window takes the focus away while everything is still whole: the spin box
+    // commits its text and the edit is reported finished once; nothing arrives while the widget
+    // is torn down.
+    delete m_window;
+    m_window = nullptr;
+    m_widget = nullptr;
+    QCOMPARE(log.entries, (QStringList { valueChanged(1, 4), editFinished(1, 4) }));
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetSlider)

@@ -2,7 +2,6 @@
 
 #include "QMouseSpinBox.h"
 #include "VelaNumericalSliderPrivate.h"
-#include "VelaTeardownPrivate.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -18,10 +17,8 @@ QNumericalMouseSpinbox::QNumericalMouseSpinbox(QWidget *parent)
     : QNumericalWidgetBase(parent)
 { }
 
-QNumericalMouseSpinbox::~QNumericalMouseSpinbox()
-{
-    Vela::DetachFromChildren(this);
-}
+// The base cuts the editors' connections before they are torn down.
+QNumericalMouseSpinbox::~QNumericalMouseSpinbox() = default;
 
 Vela::CVector4<float> QNumericalMouseSpinbox::GetValue()
 {

@@ -2,7 +2,6 @@
 
 #include "QMultiLevelSlider.h"
 #include "VelaNumericalSliderPrivate.h"
-#include "VelaTeardownPrivate.h"
 
 #include <QColor>
 #include <QLabel>
@@ -19,22 +18,21 @@ QNumericalWidgetMultiLevelSlider::QNumericalWidgetMultiLevelSlider(QWidget *pare
 
 QNumericalWidgetMultiLevelSlider::~QNumericalWidgetMultiLevelSlider()
 {
-    // The slider reports through callbacks into this widget, which is going away.
+    // The slider reports through callbacks rather than connections, which the base does not cut.
     if (m_pMultiLevelSlider) {
         m_pMultiLevelSlider->SetIndicatorMoveSignalInterface(nullptr);
         m_pMultiLevelSlider->SetIndicatorMoveDoneSignalInterface(nullptr);
     }
-    Vela::DetachFromChildren(this);
 }
 
 void QNumericalWidgetMultiLevelSlider::SetDesc(const Lu::CDynamicWidgetVariableBase &var,
                                                const Lu::CDynamicWidgetDescBase &desc)
 {
-    const unsigned int uPreviousCount = GetSliderCount(GetInputType());
+    const unsigned int uPreviousCount = SliderCount(GetInputType());
     QNumericalWidgetBase::SetDesc(var, desc);
     if (m_pLabel)
         m_pLabel->setText(GetName());
-    if (!m_pMultiLevelSlider || GetSliderCount(GetInputType()) != uPreviousCount) {
+    if (!m_pMultiLevelSlider || SliderCount(GetInputType()) != uPreviousCount) {
         CreateUi(var, desc);
         return;
     }
@@ -61,8 +59,7 @@ void QNumericalWidgetMultiLevelSlider::SetDecimals(unsigned int n)
     Q_UNUSED(n);
 }
 
-unsigned int
-QNumericalWidgetMultiLevelSlider::GetSliderCount(Vela::EDynamicWidgetVariableType eType)
+unsigned int QNumericalWidgetMultiLevelSlider::SliderCount(Vela::EDynamicWidgetVariableType eType)
 {
     return NumericalSlider::ComponentCount(eType);
 }
@@ -78,7 +75,7 @@ void QNumericalWidgetMultiLevelSlider::CreateUi(const Lu::CDynamicWidgetVariable
     m_pLabel = nullptr;
     m_pGroupWidget = nullptr;
 
-    const unsigned int uCount = GetSliderCount(var.eType);
+    const unsigned int uCount = SliderCount(var.eType);
     CArrayList<QMultiLevelSlider::IndicatorDesc> kIndicators;
     for (unsigned int i = 0; i < uCount; ++i) {
         QMultiLevelSlider::IndicatorDesc kIndicator;

@@ -32,7 +32,7 @@ public:
     // Does nothing: the levels are fixed at four decimals.
     void SetDecimals(unsigned int n);
 
-    static unsigned int GetSliderCount(Vela::EDynamicWidgetVariableType eType);
+    static unsigned int SliderCount(Vela::EDynamicWidgetVariableType eType);
     static bool IsFloatType(Vela::EDynamicWidgetVariableType eType);
 
 protected:

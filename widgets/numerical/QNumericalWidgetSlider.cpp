@@ -3,7 +3,6 @@
 #include "QComboDoubleSpinBox.h"
 #include "QGroupWidget.h"
 #include "VelaNumericalSliderPrivate.h"
-#include "VelaTeardownPrivate.h"
 
 #include <QLabel>
 #include <QLayout>
@@ -48,16 +47,14 @@ QNumericalWidgetSlider::QNumericalWidgetSlider(QWidget *parent)
     : QNumericalWidgetBase(parent)
 { }
 
-QNumericalWidgetSlider::~QNumericalWidgetSlider()
-{
-    Vela::DetachFromChildren(this);
-}
+// The base cuts the editors' connections before they are torn down.
+QNumericalWidgetSlider::~QNumericalWidgetSlider() = default;
 
 void QNumericalWidgetSlider::SetDesc(const Lu::CDynamicWidgetVariableBase &var,
                                      const Lu::CDynamicWidgetDescBase &desc)
 {
     QNumericalWidgetBase::SetDesc(var, desc);
-    if (GetSliderCount(GetInputType()) != static_cast<unsigned int>(m_listComboSpins.size())) {
+    if (SliderCount(GetInputType()) != static_cast<unsigned int>(m_listComboSpins.size())) {
         CreateUi(var, desc);
         return;
     }
@@ -101,7 +98,7 @@ void QNumericalWidgetSlider::SetDecimals(unsigned int n)
     }
 }
 
-unsigned int QNumericalWidgetSlider::GetSliderCount(Vela::EDynamicWidgetVariableType eType)
+unsigned int QNumericalWidgetSlider::SliderCount(Vela::EDynamicWidgetVariableType eType)
 {
     return NumericalSlider::ComponentCount(eType);
 }
@@ -119,7 +116,7 @@ void QNumericalWidgetSlider::CreateUi(const Lu::CDynamicWidgetVariableBase &var,
 
     // Editors of an earlier description stay in the list; the new ones follow them.
     const StepRule kRule = StepRuleFor(var.eType, desc.eBehaviorType, desc);
-    const unsigned int uCount = GetSliderCount(var.eType);
+    const unsigned int uCount = SliderCount(var.eType);
     for (unsigned int i = 0; i < uCount; ++i) {
         auto *pComboSpin = new QComboDoubleSpinBox(this);
         SetComboSpinValue(i, pComboSpin, kRule.dStep, kRule.nDecimals, kRule.bUnitRange, desc);

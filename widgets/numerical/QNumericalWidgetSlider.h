@@ -35,7 +35,7 @@ public:
     // scale. Integer inputs keep 0 decimals.
     void SetDecimals(unsigned int n);
 
-    static unsigned int GetSliderCount(Vela::EDynamicWidgetVariableType eType);
+    static unsigned int SliderCount(Vela::EDynamicWidgetVariableType eType);
     static bool IsFloatType(Vela::EDynamicWidgetVariableType eType);
 
 protected:
