@@ -9,7 +9,7 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
-#include <cmath>
+#include <algorithm>
 
 using namespace Vela;
 
