@@ -1,0 +1,293 @@
+#include "NumericalSliderTestSupport.h"
+#include "QMouseSpinBox.h"
+#include "QNumericalMouseSpinbox.h"
+#include "VelaTest.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QVBoxLayout>
+#include <QtTest>
+
+#include <limits>
+
+using namespace NumericalSliderTest;
+
+class tst_QNumericalMouseSpinbox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void constructionBuildsNothing();
+    void componentCount();
+    void layoutAndCaptions();
+    void spinBoxRange();
+    void dragReportsEachStep();
+    void typingReportsEachChange();
+    void negativeInputRefused();
+    void pushedValuesAreSilent();
+    void nonNumericType();
+    void setDescKeepsEditors();
+    void destroyWhileTyping();
+
+private:
+    QNumericalMouseSpinbox *build(int type, const Lu::CDynamicWidgetDescBase &desc);
+    QList<QMouseSpinBox *> spinBoxes() const;
+    // Presses the left button in the middle of the spin box and moves the pointer by each offset
+    // in turn, then releases it.
+    void drag(QMouseSpinBox *spinBox, const QList<QPoint> &offsets);
+
+    QWidget *m_window = nullptr;
+    QLineEdit *m_other = nullptr;
+    QNumericalMouseSpinbox *m_widget = nullptr;
+};
+
+void tst_QNumericalMouseSpinbox::initTestCase()
+{
+    QLocale::setDefault(QLocale::c());
+}
+
+void tst_QNumericalMouseSpinbox::init()
+{
+    m_window = new QWidget;
+    auto *layout = new QVBoxLayout(m_window);
+    m_other = new QLineEdit(m_window);
+    layout->addWidget(m_other);
+    m_widget = new QNumericalMouseSpinbox(m_window);
+    layout->addWidget(m_widget);
+}
+
+void tst_QNumericalMouseSpinbox::cleanup()
+{
+    delete m_window;
+    m_window = nullptr;
+    m_widget = nullptr;
+}
+
+QNumericalMouseSpinbox *tst_QNumericalMouseSpinbox::build(int type,
+                                                          const Lu::CDynamicWidgetDescBase &desc)
+{
+    if (m_widget->Initialize(variable(type), desc).failed())
+        return nullptr;
+    m_window->show();
+    if (!QTest::qWaitForWindowActive(m_window))
+        return nullptr;
+    m_other->setFocus();
+    return m_widget;
+}
+
+QList<QMouseSpinBox *> tst_QNumericalMouseSpinbox::spinBoxes() const
+{
+    return m_widget->findChildren<QMouseSpinBox *>();
+}
+
+void tst_QNumericalMouseSpinbox::drag(QMouseSpinBox *spinBox, const QList<QPoint> &offsets)
+{
+    QPoint at = spinBox->rect().center();
+    QTest::mousePress(spinBox, Qt::LeftButton, Qt::NoModifier, at);
+    for (const QPoint &offset : offsets) {
+        at += offset;
+        QMouseEvent move(QEvent::MouseMove, at, spinBox->mapToGlobal(at), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(spinBox, &move);
+    }
+    QTest::mouseRelease(spinBox, Qt::LeftButton, Qt::NoModifier, at);
+}
+
+void tst_QNumericalMouseSpinbox::constructionBuildsNothing()
+{
+    QNumericalMouseSpinbox widget;
+    QVERIFY(!widget.layout());
+    QVERIFY(widget.children().isEmpty());
+    QVERIFY(widget.GetValue() == Vela::CVector4f());
+}
+
+void tst_QNumericalMouseSpinbox::componentCount()
+{
+    QCOMPARE(QNumericalMouseSpinbox::GetSliderCount(Vela::DynamicVariable_Float2), 2u);
+    QCOMPARE(QNumericalMouseSpinbox::GetSliderCount(Vela::DynamicVariable_Integer4), 4u);
+    QCOMPARE(QNumericalMouseSpinbox::GetSliderCount(Vela::DynamicVariable_String), 0u);
+    QVERIFY(QNumericalMouseSpinbox::IsFloatType(Vela::DynamicVariable_Float1));
+    QVERIFY(!QNumericalMouseSpinbox::IsFloatType(Vela::DynamicVariable_Boolean));
+}
+
+void tst_QNumericalMouseSpinbox::layoutAndCaptions()
+{
+    Lu::CDynamicWidgetDescBase desc = description(L"Tiling", 0.0f, 1.0f, { 4, 5, 6 });
+    desc.mapLabels = { { 0, "X" }, { 2, "Z" } };
+    QVERIFY(build(2, desc));
+    const QList<QMouseSpinBox *> spins = spinBoxes();
+    QCOMPARE(spins.size(), 3);
+
+    // One row: the name, then each spin box with its caption when it has one.
+    auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
+    QVERIFY(row);
+    QCOMPARE(row->spacing(), 15);
+    QCOMPARE(row->contentsMargins(), QMargins(0, 15, 0, 15));
+    QCOMPARE(row->count(), 4);
+    auto *name = qobject_cast<QLabel *>(row->itemAt(0)->widget());
+    QVERIFY(name);
+    QCOMPARE(name->text(), QStringLiteral("Tiling"));
+
+    const QStringList captions { "X", "", "Z" };
+    for (int i = 0; i < 3; ++i) {
+        auto *item = qobject_cast<QBoxLayout *>(row->itemAt(i + 1)->layout());
+        QVERIFY(item);
+        QCOMPARE(item->direction(), QBoxLayout::LeftToRight);
+        if (captions.at(i).isEmpty()) {
+            QCOMPARE(item->count(), 1);
+            QCOMPARE(item->itemAt(0)->widget(), spins.at(i));
+        } else {
+            QCOMPARE(item->count(), 2);
+            QCOMPARE(item->spacing(), 10);
+            auto *caption = qobject_cast<QLabel *>(item->itemAt(0)->widget());
+            QVERIFY(caption);
+            QCOMPARE(caption->text(), captions.at(i));
+            QCOMPARE(item->itemAt(1)->widget(), spins.at(i));
+        }
+        QCOMPARE(spins.at(i)->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+        QCOMPARE(spins.at(i)->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    }
+    // The spin boxes start at zero, whatever the description's values.
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+}
+
+void tst_QNumericalMouseSpinbox::spinBoxRange()
+{
+    QVERIFY(build(0, description(L"Scale", 0.0f, 1.0f, { 1 })));
+    QMouseSpinBox *spin = spinBoxes().first();
+    QCOMPARE(spin->decimals(), 3);
+    // The smallest positive double rounds to 0 at three decimals.
+    QCOMPARE(spin->minimum(), 0.0);
+    QVERIFY(spin->maximum() >= 1e308);
+    QCOMPARE(spin->value(), 0.0);
+}
+
+void tst_QNumericalMouseSpinbox::dragReportsEachStep()
+{
+    QVERIFY(build(1, description(L"Tiling", 0.0f, 1.0f, {})));
+    QMouseSpinBox *spin = spinBoxes().at(1);
+    m_widget->UpdateInputValue(Vela::CVector4f(2, 3, 0, 0));
+    SignalLog log(m_widget);
+
+    // Up, up, down: one step per move, each reported as a finished edit.
+    drag(spin, { QPoint(0, -5), QPoint(0, -1), QPoint(0, 20) });
+    QCOMPARE(log.entries,
+             (QStringList { valueChanged(2, 4), editFinished(2, 4), valueChanged(2, 5),
+                            editFinished(2, 5), valueChanged(2, 4), editFinished(2, 4) }));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(2, 4, 0, 0));
+
+    // Moves after the release change nothing.
+    log.entries.clear();
+    QMouseEvent move(QEvent::MouseMove, QPoint(3, 3), spin->mapToGlobal(QPoint(3, 3)), Qt::NoButton,
+                     Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(spin, &move);
+    QVERIFY(log.entries.isEmpty());
+}
+
+void tst_QNumericalMouseSpinbox::typingReportsEachChange()
+{
+    QVERIFY(build(1, description(L"Tiling", 0.0f, 1.0f, {})));
+    QMouseSpinBox *spin = spinBoxes().at(0);
+    SignalLog log(m_widget);
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QTest::keyClick(spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin, QStringLiteral("2.5"));
+    QTest::keyClick(spin, Qt::Key_Return);
+
+    // "2" and "2.5" change the value, "2." does not; Enter confirms the value once more.
+    QCOMPARE(log.entries,
+             (QStringList { valueChanged(2), editFinished(2), valueChanged(2.5f),
+                            editFinished(2.5f), valueChanged(2.5f), editFinished(2.5f) }));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(2.5f, 0, 0, 0));
+}
+
+void tst_QNumericalMouseSpinbox::negativeInputRefused()
+{
+    QVERIFY(build(0, description(L"Scale", 0.0f, 1.0f, {})));
+    QMouseSpinBox *spin = spinBoxes().first();
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QTest::keyClick(spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin, QStringLiteral("3"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    QCOMPARE(m_widget->GetValue().x, 3.0f);
+
+    SignalLog log(m_widget);
+    QTest::keyClick(spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin, QStringLiteral("-1"));
+    QTest::keyClick(spin, Qt::Key_Return);
+    // Below the minimum of 0: Enter brings the previous value back and confirms it.
+    QVERIFY(!spin->text().contains(QLatin1Char('-')));
+    QCOMPARE(log.entries, (QStringList { valueChanged(3), editFinished(3) }));
+
+    // Dragging down stops at zero.
+    log.entries.clear();
+    drag(spin, { QPoint(0, 5), QPoint(0, 5), QPoint(0, 5), QPoint(0, 5), QPoint(0, 5) });
+    QCOMPARE(log.entries,
+             (QStringList { valueChanged(2), editFinished(2), valueChanged(1), editFinished(1),
+                            valueChanged(0), editFinished(0) }));
+    QCOMPARE(m_widget->GetValue().x, 0.0f);
+}
+
+void tst_QNumericalMouseSpinbox::pushedValuesAreSilent()
+{
+    QVERIFY(build(2, description(L"Tiling", 0.0f, 1.0f, {})));
+    SignalLog log(m_widget);
+    m_widget->UpdateInputValue(Vela::CVector4f(1.5f, 2.25f, 3, 9));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.5f, 2.25f, 3, 0));
+    m_widget->SetValue(Vela::CVector4f(0.125f, 7, -4, 0));
+    // Negative values end at zero.
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.125f, 7, 0, 0));
+    QVERIFY(log.entries.isEmpty());
+}
+
+void tst_QNumericalMouseSpinbox::nonNumericType()
+{
+    QVERIFY(build(8, description(L"Flag", 0.0f, 1.0f, {})));
+    QVERIFY(spinBoxes().isEmpty());
+    auto *row = m_widget->layout()->itemAt(0)->layout();
+    QVERIFY(row);
+    QCOMPARE(row->count(), 1);
+    m_widget->UpdateInputValue(Vela::CVector4f(1, 2, 3, 4));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+}
+
+void tst_QNumericalMouseSpinbox::setDescKeepsEditors()
+{
+    QVERIFY(build(1, description(L"Tiling", 0.0f, 1.0f, {})));
+    m_widget->UpdateInputValue(Vela::CVector4f(1, 2, 0, 0));
+    SignalLog log(m_widget);
+    m_widget->SetDesc(variable(3), description(L"Offset", 0.0f, 1.0f, { 5, 5, 5, 5 }));
+    // Only the base fields change.
+    QCOMPARE(m_widget->GetName(), QStringLiteral("Offset"));
+    QCOMPARE(int(m_widget->GetInputType()), 3);
+    QCOMPARE(spinBoxes().size(), 2);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1, 2, 0, 0));
+    QVERIFY(log.entries.isEmpty());
+}
+
+void tst_QNumericalMouseSpinbox::destroyWhileTyping()
+{
+    QVERIFY(build(1, description(L"Tiling", 0.0f, 1.0f, {})));
+    QMouseSpinBox *spin = spinBoxes().at(1);
+    spin->setFocus();
+    QTRY_VERIFY(spin->hasFocus());
+    QTest::keyClick(spin, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(spin, QStringLiteral("4."));
+    SignalLog log(m_widget);
+    // The half-typed text is committed while the window goes away; nothing reaches the host.
+    delete m_window;
+    m_window = nullptr;
+    m_widget = nullptr;
+    QVERIFY(log.entries.isEmpty());
+}
+
+VELA_TEST_CLASS(tst_QNumericalMouseSpinbox)
+#include "tst_QNumericalMouseSpinbox.moc"

@@ -1,0 +1,305 @@
+#include "NumericalSliderTestSupport.h"
+#include "QMultiLevelSlider.h"
+#include "QNumericalWidgetMultiLevelSlider.h"
+#include "VelaTest.h"
+
+#include <QLabel>
+#include <QLayout>
+#include <QMouseEvent>
+#include <QtTest>
+
+#include <cmath>
+#include <memory>
+
+using namespace NumericalSliderTest;
+
+// The slider is shown 411 pixels wide with the 10 x 10 test images (multilevel_icons.qrc): its
+// track runs from x = 5 to x = 405, so level L of a 0 to 10000 range sits at x = 5 + L / 25. The
+// indicators hang 3 pixels below the track at y = 8, or at y = 13 when a middle indicator is
+// drawn above it.
+static const int kWidth = 411;
+
+class tst_QNumericalWidgetMultiLevelSlider : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void constructionBuildsNothing();
+    void componentCount();
+    void threeLevels();
+    void levelRoundTrip_data();
+    void levelRoundTrip();
+    void fallingValuesMayPass_data();
+    void fallingValuesMayPass();
+    void dragLevel();
+    void dragKeepsOrder();
+    void middleFollowsDraggedEnd();
+    void pushedValuesAreClampedAndSilent();
+    void setDescClampsAgainstOldRange();
+    void setDescWithOtherCountBuildsAnew();
+    void decimalsAndCaptionDoNothing();
+    void nonNumericType();
+
+private:
+    QNumericalWidgetMultiLevelSlider *build(int type, const Lu::CDynamicWidgetDescBase &desc);
+    QLabel *caption() const;
+    // Presses on the indicator drawn at `level` of a 0 to 10000 range, drags it to the track
+    // position of `toLevel` and releases it.
+    void drag(int level, int toLevel, bool upperMiddle);
+
+    std::unique_ptr<QNumericalWidgetMultiLevelSlider> m_widget;
+};
+
+void tst_QNumericalWidgetMultiLevelSlider::init()
+{
+    m_widget.reset(new QNumericalWidgetMultiLevelSlider);
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::cleanup()
+{
+    m_widget.reset();
+}
+
+QNumericalWidgetMultiLevelSlider *
+tst_QNumericalWidgetMultiLevelSlider::build(int type, const Lu::CDynamicWidgetDescBase &desc)
+{
+    if (m_widget->Initialize(variable(type), desc).failed())
+        return nullptr;
+    m_widget->setFixedWidth(kWidth);
+    m_widget->show();
+    if (!QTest::qWaitForWindowExposed(m_widget.get()))
+        return nullptr;
+    return m_widget.get();
+}
+
+QLabel *tst_QNumericalWidgetMultiLevelSlider::caption() const
+{
+    return m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::drag(int level, int toLevel, bool upperMiddle)
+{
+    QMultiLevelSlider *slider = m_widget->GetMultiLevelSlider();
+    const int y = 3 + (upperMiddle ? 13 : 8) + 5;
+    const QPoint from(5 + level / 25, y);
+    const QPoint to(5 + toLevel / 25, y);
+    QTest::mousePress(slider, Qt::LeftButton, Qt::NoModifier, from);
+    for (int step = 1; step <= 3; ++step) {
+        const QPoint at = from + (to - from) * step / 3;
+        QMouseEvent move(QEvent::MouseMove, at, slider->mapToGlobal(at), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(slider, &move);
+    }
+    QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::constructionBuildsNothing()
+{
+    QVERIFY(!m_widget->GetMultiLevelSlider());
+    QVERIFY(!m_widget->layout());
+    QVERIFY(m_widget->children().isEmpty());
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+    m_widget->UpdateInputValue(Vela::CVector4f(1, 1, 1, 1));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::componentCount()
+{
+    using W = QNumericalWidgetMultiLevelSlider;
+    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Float3), 3u);
+    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Integer2), 2u);
+    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Image), 0u);
+    QVERIFY(W::IsFloatType(Vela::DynamicVariable_Float4));
+    QVERIFY(!W::IsFloatType(Vela::DynamicVariable_Integer1));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::threeLevels()
+{
+    QVERIFY(build(2, description(L"Levels", 0.0f, 1.0f, { 0.2f, 0.5f, 0.8f })));
+    QMultiLevelSlider *slider = m_widget->GetMultiLevelSlider();
+    QVERIFY(slider);
+    QCOMPARE(slider->parentWidget(), m_widget.get());
+    QCOMPARE(slider->GetCount(), 3u);
+    QCOMPARE(slider->GetIndicatorValue(0), 2000);
+    QCOMPARE(slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(slider->GetIndicatorValue(2), 8000);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.2f, 0.5f, 0.8f, 0));
+
+    QVERIFY(caption());
+    QCOMPARE(caption()->text(), QStringLiteral("Levels"));
+    QCOMPARE(m_widget->layout()->itemAt(0)->widget(), caption());
+    QCOMPARE(m_widget->layout()->itemAt(1)->widget(), slider);
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::levelRoundTrip_data()
+{
+    QTest::addColumn<float>("value");
+    QTest::addColumn<int>("level");
+    QTest::addColumn<float>("readBack");
+    QTest::newRow("truncated to four decimals") << 0.33335f << 3333 << 0.3333f;
+    QTest::newRow("maximum") << 1.0f << 10000 << 1.0f;
+    QTest::newRow("minimum") << -1.0f << -10000 << -1.0f;
+    QTest::newRow("toward zero") << -0.00019f << -1 << -0.0001f;
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::levelRoundTrip()
+{
+    QFETCH(float, value);
+    QFETCH(int, level);
+    QFETCH(float, readBack);
+    QVERIFY(build(0, description(L"Level", -1.0f, 1.0f, { value })));
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetIndicatorValue(0), level);
+    QCOMPARE(m_widget->GetValue().x, readBack);
+
+    // Values pushed in later take the same way.
+    m_widget->UpdateInputValue(Vela::CVector4f(0.5f, 0, 0, 0));
+    m_widget->UpdateInputValue(Vela::CVector4f(value, 0, 0, 0));
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetIndicatorValue(0), level);
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::fallingValuesMayPass_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<Vela::CVector4f>("values");
+    QTest::addColumn<unsigned int>("count");
+    QTest::addColumn<Vela::CVector4f>("expected");
+    QTest::newRow("rising") << 1 << Vela::CVector4f(0.4f, 0.6f, 0, 0) << 2u
+                            << Vela::CVector4f(0.4f, 0.6f, 0, 0);
+    // Falling first values turn free order on, so the slider accepts them as they are.
+    QTest::newRow("falling") << 1 << Vela::CVector4f(0.6f, 0.4f, 0, 0) << 2u
+                             << Vela::CVector4f(0.6f, 0.4f, 0, 0);
+    QTest::newRow("equal") << 1 << Vela::CVector4f(0.5f, 0.5f, 0, 0) << 2u
+                           << Vela::CVector4f(0.5f, 0.5f, 0, 0);
+    // A middle indicator needs ordered ends: the slider refuses and stays empty.
+    QTest::newRow("falling with middle")
+        << 2 << Vela::CVector4f(0.6f, 0.4f, 0.8f, 0) << 0u << Vela::CVector4f();
+    // Out of order past the first pair: refused as well.
+    QTest::newRow("unordered four")
+        << 3 << Vela::CVector4f(0.1f, 0.5f, 0.3f, 0.9f) << 0u << Vela::CVector4f();
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::fallingValuesMayPass()
+{
+    QFETCH(int, type);
+    QFETCH(Vela::CVector4f, values);
+    QFETCH(unsigned int, count);
+    QFETCH(Vela::CVector4f, expected);
+    QVERIFY(
+        build(type, description(L"Range", 0.0f, 1.0f, { values.x, values.y, values.z, values.w })));
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), count);
+    QVERIFY(m_widget->GetValue() == expected);
+    // An empty slider takes pushed values without complaint.
+    m_widget->UpdateInputValue(Vela::CVector4f(0.1f, 0.2f, 0.3f, 0.4f));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::dragLevel()
+{
+    QVERIFY(build(1, description(L"Range", 0.0f, 1.0f, { 0.2f, 0.4f })));
+    SignalLog log(m_widget.get());
+    drag(4000, 7500, false);
+
+    QVERIFY(log.entries.size() >= 2);
+    QCOMPARE(log.entries.last(), editFinished(0.2f, 0.75f));
+    QCOMPARE(log.entries.at(log.entries.size() - 2), valueChanged(0.2f, 0.75f));
+    QCOMPARE(log.entries.filter(QStringLiteral("EditFinished")).size(), 1);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.2f, 0.75f, 0, 0));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::dragKeepsOrder()
+{
+    QVERIFY(build(1, description(L"Range", 0.0f, 1.0f, { 0.2f, 0.4f })));
+    SignalLog log(m_widget.get());
+    // Dragged past its neighbour, the first level stops a minimum distance (6 pixels' worth of
+    // range, 150) before it.
+    drag(2000, 9000, false);
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetIndicatorValue(0), 3850);
+    QCOMPARE(log.entries.last(), editFinished(0.385f, 0.4f));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::middleFollowsDraggedEnd()
+{
+    QVERIFY(build(2, description(L"Levels", 0.0f, 1.0f, { 0.0f, 0.5f, 1.0f })));
+    // The middle ratio follows pushed values: 0.25 of the way from the first to the last.
+    m_widget->UpdateInputValue(Vela::CVector4f(0.0f, 0.25f, 1.0f, 0));
+    SignalLog log(m_widget.get());
+    drag(10000, 6000, true);
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetIndicatorValue(2), 6000);
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetIndicatorValue(1), 1500);
+    QCOMPARE(log.entries.last(), editFinished(0.0f, 0.15f, 0.6f));
+    QCOMPARE(log.entries.at(log.entries.size() - 2), valueChanged(0.0f, 0.15f, 0.6f));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::pushedValuesAreClampedAndSilent()
+{
+    QVERIFY(build(1, description(L"Range", 0.0f, 1.0f, { 0.2f, 0.4f })));
+    QMultiLevelSlider *slider = m_widget->GetMultiLevelSlider();
+    SignalLog log(m_widget.get());
+
+    m_widget->SetValue(Vela::CVector4f(-1.0f, 5.0f, 7, 7));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0, 1, 0, 0));
+    QVERIFY(!slider->signalsBlocked());
+
+    // A slider the host has blocked stays blocked.
+    slider->blockSignals(true);
+    m_widget->UpdateInputValue(Vela::CVector4f(0.3f, 0.7f, 0, 0));
+    QVERIFY(slider->signalsBlocked());
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.3f, 0.7f, 0, 0));
+    QVERIFY(log.entries.isEmpty());
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::setDescClampsAgainstOldRange()
+{
+    QVERIFY(build(0, description(L"Level", 0.0f, 1.0f, { 0.5f })));
+    m_widget->SetDesc(variable(0), description(L"Wider Level", 0.0f, 2.0f, { 1.5f }));
+    QCOMPARE(caption()->text(), QStringLiteral("Wider Level"));
+    // The value is clamped before the range grows.
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.0f, 0, 0, 0));
+    // The new range holds from now on.
+    m_widget->UpdateInputValue(Vela::CVector4f(1.5f, 0, 0, 0));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.5f, 0, 0, 0));
+    m_widget->UpdateInputValue(Vela::CVector4f(3.0f, 0, 0, 0));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(2.0f, 0, 0, 0));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::setDescWithOtherCountBuildsAnew()
+{
+    QVERIFY(build(0, description(L"Level", 0.0f, 1.0f, { 0.5f })));
+    QMultiLevelSlider *first = m_widget->GetMultiLevelSlider();
+    m_widget->SetDesc(variable(1), description(L"Range", 0.0f, 1.0f, { 0.1f, 0.9f }));
+    QVERIFY(m_widget->GetMultiLevelSlider() != first);
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), 2u);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.1f, 0.9f, 0, 0));
+    QCOMPARE(caption()->text(), QStringLiteral("Range"));
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::decimalsAndCaptionDoNothing()
+{
+    QVERIFY(build(1, description(L"Range", 0.0f, 1.0f, { 0.25f, 0.75f })));
+    SignalLog log(m_widget.get());
+    m_widget->SetDecimals(0);
+    m_widget->SetDecimals(7);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.25f, 0.75f, 0, 0));
+
+    // The caption is watched but a double-click on it resets nothing.
+    m_widget->UpdateInputValue(Vela::CVector4f(0.5f, 0.6f, 0, 0));
+    QTest::mouseDClick(caption(), Qt::LeftButton);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.5f, 0.6f, 0, 0));
+    QVERIFY(log.entries.isEmpty());
+}
+
+void tst_QNumericalWidgetMultiLevelSlider::nonNumericType()
+{
+    QVERIFY(build(8, description(L"Flag", 0.0f, 1.0f, { 1, 1, 1, 1 })));
+    QVERIFY(m_widget->GetMultiLevelSlider());
+    QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), 0u);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+    SignalLog log(m_widget.get());
+    drag(5000, 9000, false);
+    QVERIFY(log.entries.isEmpty());
+}
+
+VELA_TEST_CLASS(tst_QNumericalWidgetMultiLevelSlider)
+#include "tst_QNumericalWidgetMultiLevelSlider.moc"
