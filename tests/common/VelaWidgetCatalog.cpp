@@ -1,10 +1,23 @@
 #include "VelaWidgetCatalog.h"
 
 #include "CKdFKModifyCellWidget.h"
+#include "FlowLayout.h"
 #include "QComboLabelButton.h"
 #include "QDialEx.h"
 #include "QIntegerSliderWithRenameButton.h"
+#include "QMultiLevelSlider.h"
+#include "QNumericalMouseSpinbox.h"
+#include "QNumericalWidgetColor.h"
+#include "QNumericalWidgetColorPresetButtons.h"
+#include "QNumericalWidgetColorWithToolButton.h"
+#include "QNumericalWidgetCombobox.h"
+#include "QNumericalWidgetImage.h"
+#include "QNumericalWidgetMultiLevelSlider.h"
+#include "QNumericalWidgetOutputSize.h"
+#include "QNumericalWidgetSlider.h"
+#include "QNumericalWidgetToggleButton.h"
 #include "QSbsImageWidget.h"
+#include "VelaColorDialog2.h"
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 
@@ -15,6 +28,29 @@
 extern "C" QObject *qt_plugin_instance();
 
 namespace VelaCatalog {
+
+// A material-parameter widget as a host makes one: from a three-component input with captions
+// and choices.
+template<typename Widget>
+static Entry numerical(const char *name, Vela::EDynamicWidgetVariableType eType)
+{
+    return { QLatin1String(name), [eType]() -> QWidget * {
+                Lu::CDynamicWidgetVariableBase var;
+                var.eType = eType;
+                var.vValue = Vela::CVector4f(0.5f, 0.25f, 1.0f, 1.0f);
+                Lu::CDynamicWidgetDescBase desc;
+                desc.strName = L"Input_Button";
+                for (int i = 0; i < 4; ++i) {
+                    desc.afMaximum[i] = 10.0f;
+                    desc.afValue[i] = 2.5f;
+                }
+                desc.mapLabels[0] = "R";
+                desc.mapLabels[2] = "B";
+                auto *widget = new Widget;
+                widget->Initialize(var, desc);
+                return widget;
+            } };
+}
 
 const QVector<Entry> &Widgets()
 {
@@ -42,6 +78,45 @@ const QVector<Entry> &Widgets()
                          slot->SetFileTypeFilter(QStringLiteral("png;jpg"));
                          return slot;
                      } });
+        list.append({ QStringLiteral("QMultiLevelSlider"), [] {
+                         auto *slider = new QMultiLevelSlider;
+                         Vela::CArrayList<QMultiLevelSlider::IndicatorDesc> indicators(3);
+                         for (int i = 0; i < 3; ++i) {
+                             indicators[i].nValue = i * 40;
+                             indicators[i].bSelectable = true;
+                         }
+                         slider->InitUi(0, 100, false, indicators, true, nullptr, nullptr, true,
+                                        nullptr, nullptr, QColor(80, 80, 80));
+                         return slider;
+                     } });
+        list.append({ QStringLiteral("VelaColorDialog2"), [] { return new VelaColorDialog2; } });
+        list.append({ QStringLiteral("FlowLayout"), [] {
+                         auto *host = new QWidget;
+                         auto *flow = new FlowLayout(host, 4, 6, 6);
+                         for (int i = 0; i < 12; ++i)
+                             flow->addWidget(new QWidget);
+                         return host;
+                     } });
+        list << numerical<QNumericalWidgetSlider>("QNumericalWidgetSlider",
+                                                  Vela::DynamicVariable_Float3)
+             << numerical<QNumericalWidgetMultiLevelSlider>("QNumericalWidgetMultiLevelSlider",
+                                                            Vela::DynamicVariable_Float3)
+             << numerical<QNumericalMouseSpinbox>("QNumericalMouseSpinbox",
+                                                  Vela::DynamicVariable_Integer2)
+             << numerical<QNumericalWidgetColor>("QNumericalWidgetColor",
+                                                 Vela::DynamicVariable_Float4)
+             << numerical<QNumericalWidgetColorWithToolButton>(
+                    "QNumericalWidgetColorWithToolButton", Vela::DynamicVariable_Float4)
+             << numerical<QNumericalWidgetColorPresetButtons>("QNumericalWidgetColorPresetButtons",
+                                                              Vela::DynamicVariable_Integer1)
+             << numerical<QNumericalWidgetCombobox>("QNumericalWidgetCombobox",
+                                                    Vela::DynamicVariable_Integer1)
+             << numerical<QNumericalWidgetOutputSize>("QNumericalWidgetOutputSize",
+                                                      Vela::DynamicVariable_Integer2)
+             << numerical<QNumericalWidgetToggleButton>("QNumericalWidgetToggleButton",
+                                                        Vela::DynamicVariable_Integer1)
+             << numerical<QNumericalWidgetImage>("QNumericalWidgetImage",
+                                                 Vela::DynamicVariable_Image);
         return list;
     }();
     return entries;

@@ -3,6 +3,7 @@
 #include "GalleryRegistry.h"
 #include "MaterialRecords.h"
 #include "QGroupWidget.h"
+#include "QNumericalWidgetBase.h"
 #include "QSbsImageWidget.h"
 #include "SampleMaterialImages.h"
 

@@ -6,8 +6,8 @@
 #include "QGroupWidget.h"
 #include "QNumericalWidgetBase.h"
 
+#include <QHBoxLayout>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace {
@@ -16,13 +16,33 @@ const char kPanelStyle[] = "QGroupWidget > QPushButton { color: #d0d0d0; backgro
                            " border: 1px solid #505050; padding: 3px; text-align: left; }"
                            "QGroupWidget > QPushButton:hover { color: #82be0f; }";
 
+// Opens every closed group below root as a user would, one level at a time: a group's widgets
+// (and so its inner groups) are created when it is first opened.
+void openGroups(QWidget *root)
+{
+    bool opened = true;
+    while (opened) {
+        opened = false;
+        for (QGroupWidget *group : root->findChildren<QGroupWidget *>()) {
+            auto *title = group->findChild<QPushButton *>(QString(), Qt::FindDirectChildrenOnly);
+            if (title && title->isCheckable() && !title->isChecked()) {
+                title->click();
+                opened = true;
+            }
+        }
+    }
+}
+
 QWidget *createMaterialPanel(GalleryContext &ctx)
 {
-    auto *scroll = new QScrollArea;
-    scroll->setWidgetResizable(true);
     auto *panel = new QWidget;
     panel->setStyleSheet(QLatin1String(kPanelStyle));
-    auto *column = new QVBoxLayout(panel);
+    // Two columns of sections, so that the whole material fits on one screen.
+    auto *columns = new QHBoxLayout(panel);
+    QVBoxLayout *column[2] = { new QVBoxLayout, new QVBoxLayout };
+    for (QVBoxLayout *c : column) {
+        columns->addLayout(c, 1);
+    }
     QVector<QGroupWidget *> sections;
     const auto always = [] { return true; };
     for (const MaterialInput &input : MaterialRecords::Inputs()) {
@@ -34,21 +54,17 @@ QWidget *createMaterialPanel(GalleryContext &ctx)
         if (!section) {
             section = new QGroupWidget(panel, input.section, false);
             sections.append(section);
-            column->addWidget(section);
+            column[sections.size() == 1 ? 0 : 1]->addWidget(section);
         }
         section->AddWidgetCreator(
             [&ctx, &input]() -> QWidget * { return MaterialRecords::CreateWidget(input, ctx); },
             always);
     }
-    column->addStretch(1);
-    // Open every section as a user would: its widgets are created now, once.
-    for (QGroupWidget *section : sections) {
-        if (auto *title = section->findChild<QPushButton *>(QString(), Qt::FindDirectChildrenOnly))
-            title->click();
-    }
-    scroll->setWidget(panel);
-    scroll->resize(460, 900);
-    return scroll;
+    for (QVBoxLayout *c : column)
+        c->addStretch(1);
+    openGroups(panel);
+    panel->setMinimumWidth(960);
+    return panel;
 }
 
 // The inputs of the sample material edited by one widget class, one under the other.
@@ -65,13 +81,14 @@ std::function<QWidget *(GalleryContext &)> pageOf(const char *className)
                 delete widget;
         }
         column->addStretch(1);
+        openGroups(page);
         return page;
     };
 }
 
 } // namespace
 
-GALLERY_ENTRY({ 40, "Material parameters", "Material panel",
+GALLERY_ENTRY({ 40, "Material parameters", "MaterialPanel",
                 "A procedural material's inputs as a host shows them: one widget per input, "
                 "made from the host's variable and description records through Initialize, in "
                 "collapsible sections. Every ValueChanged / EditFinished appears in the log.",

@@ -105,6 +105,7 @@ QVector<MaterialInput> makeInputs()
                                        { 3, "Screen" },
                                        { 5, "Soft Light" } })
         blend.desc.mapLabels[choice.first] = choice.second;
+    blend.var.vValue = Vela::CVector4f(2.0f, 0.0f, 0.0f, 0.0f);
     inputs << blend;
     MaterialInput invert = input("Pattern", L"Invert Height", Vela::DynamicVariable_Integer1,
                                  Vela::DynamicBehavior_ToggleButton);
@@ -121,8 +122,10 @@ QVector<MaterialInput> makeInputs()
     inputs << slider("Emission", L"Intensity", Vela::DynamicVariable_Float1, 0.0f, 20.0f, { 2.5f });
 
     // Output
-    inputs << input("Output", L"Output Size", Vela::DynamicVariable_Integer2,
-                    Vela::DynamicBehavior_OutputSize);
+    MaterialInput size = input("Output", L"Output Size", Vela::DynamicVariable_Integer2,
+                               Vela::DynamicBehavior_OutputSize);
+    size.var.vValue = Vela::CVector4f(9.0f, 9.0f, 0.0f, 0.0f); // 512 x 512
+    inputs << size;
     inputs << input("Output", L"Detail Mask", Vela::DynamicVariable_Image,
                     Vela::DynamicBehavior_Image);
     return inputs;
@@ -223,6 +226,9 @@ QNumericalWidgetBase *CreateWidget(const MaterialInput &input, GalleryContext &c
     QNumericalWidgetBase *widget = widgetFor(input.desc.eBehaviorType);
     widget->SetKey(input.desc.strName);
     widget->Initialize(input.var, input.desc);
+    // Widgets that start at zero or at their first entry show the input's value once the host
+    // pushes it.
+    widget->UpdateInputValue(input.var.vValue);
     const QString name = QString::fromStdWString(input.desc.strName);
     if (auto *image = qobject_cast<QNumericalWidgetImage *>(widget))
         answerTextureSlot(image, context);
