@@ -38,7 +38,7 @@ GalleryWindow::GalleryWindow(QWidget *parent)
 
     auto *splitter = new QSplitter(this);
     m_list = new QListWidget(splitter);
-    m_list->setMinimumWidth(220);
+    m_list->setMinimumWidth(290);
     auto *right = new QSplitter(Qt::Vertical, splitter);
     m_pages = new QStackedWidget(right);
     m_log = new QPlainTextEdit(right);
@@ -105,6 +105,21 @@ QWidget *GalleryWindow::createPage(const GalleryEntry &entry)
     scroll->setWidget(holder);
     layout->addWidget(scroll, 1);
     return page;
+}
+
+bool GalleryWindow::writeWindowShot(const QString &file, const QString &pageName)
+{
+    for (int row = 0; row < m_list->count(); ++row) {
+        const QVariant index = m_list->item(row)->data(Qt::UserRole);
+        if (index.isValid() && m_entries.at(index.toInt()).name == pageName)
+            m_list->setCurrentRow(row);
+    }
+    resize(1400, 1000);
+    show();
+    QApplication::processEvents();
+    const QPixmap shot = grab();
+    hide();
+    return !shot.isNull() && shot.save(file);
 }
 
 QString GalleryWindow::sampleDir() const

@@ -27,6 +27,8 @@ public:
     // Writes one PNG per page into dir, each file named after the page plus suffix; returns the
     // number of pictures that could not be written.
     int writeScreenshots(const QString &dir, const QString &suffix);
+    // Writes a picture of the whole window showing the named page; false when it could not.
+    bool writeWindowShot(const QString &file, const QString &pageName);
 
     static const char *styleSheetText();
 

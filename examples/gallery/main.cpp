@@ -1,7 +1,8 @@
 // The Vela Widgets gallery: every widget of the library with sample data.
 //   vela-gallery                    opens the window
 //   vela-gallery --screenshots DIR  writes one PNG per widget into DIR, at device-pixel ratio 1
-//                                   (NAME.png) and 2 (NAME@2x.png), and DIR/index.html
+//                                   (NAME.png) and 2 (NAME@2x.png), a picture of the whole
+//                                   window (gallery.png) and DIR/index.html
 //   vela-gallery --list             prints the name of every page (one PNG each)
 #include "GalleryWindow.h"
 
@@ -79,6 +80,9 @@ int main(int argc, char **argv)
         return window.writeScreenshots(dir, QStringLiteral("@2x")) == 0 ? 0 : 1;
 
     int failures = window.writeScreenshots(dir, QString());
+    if (!window.writeWindowShot(QDir(dir).filePath(QStringLiteral("gallery.png")),
+                                QStringLiteral("MaterialPanel")))
+        ++failures;
     // The second scale needs a process of its own: Qt reads the scale factor at start-up.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));

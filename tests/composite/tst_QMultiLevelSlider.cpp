@@ -134,6 +134,9 @@ void tst_QMultiLevelSlider::drag(unsigned long long index, int toX)
 {
     const QPoint from = centreOf(index);
     QTest::mousePress(m_slider.get(), Qt::LeftButton, Qt::NoModifier, from);
+    // Through a point half-way, as a hand does: a move to exactly where the previous drag ended
+    // would be dropped as no move at all.
+    QTest::mouseMove(m_slider.get(), QPoint((from.x() + toX) / 2, from.y()));
     QTest::mouseMove(m_slider.get(), QPoint(toX, from.y()));
     QTest::mouseRelease(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(toX, from.y()));
 }
