@@ -87,11 +87,18 @@ void handBuiltPanel(benchmark::State &state)
     }
 }
 
-// One step of a drag: the slider is held down and its position moves by one.
-void dragStep(QSlider *slider, bool &forward)
+// Drag steps: the slider is held down and its position moves by one, back and forth, each step
+// reaching the host's slot (which stores the packed value in `received`).
+void dragSteps(benchmark::State &state, QSlider *slider, const Vela::CVector4f &received)
 {
-    slider->setSliderPosition(slider->sliderPosition() + (forward ? 1 : -1));
-    forward = !forward;
+    slider->setSliderDown(true);
+    bool forward = true;
+    for (auto _ : state) {
+        slider->setSliderPosition(slider->sliderPosition() + (forward ? 1 : -1));
+        forward = !forward;
+        benchmark::DoNotOptimize(received);
+    }
+    slider->setSliderDown(false);
 }
 
 void numericalSliderStep(benchmark::State &state)
@@ -102,14 +109,7 @@ void numericalSliderStep(benchmark::State &state)
     Vela::CVector4f received;
     QObject::connect(&input, &QNumericalWidgetBase::ValueChanged,
                      [&received](Vela::CVector4f value) { received = value; });
-    QSlider *slider = input.findChild<QSlider *>();
-    slider->setSliderDown(true);
-    bool forward = true;
-    for (auto _ : state) {
-        dragStep(slider, forward);
-        benchmark::DoNotOptimize(received);
-    }
-    slider->setSliderDown(false);
+    dragSteps(state, input.findChild<QSlider *>(), received);
 }
 
 void handBuiltSliderStep(benchmark::State &state)
@@ -132,13 +132,7 @@ void handBuiltSliderStep(benchmark::State &state)
         received = Vela::CVector4f(float(spins[0]->value()), float(spins[1]->value()),
                                    float(spins[2]->value()), float(spins[3]->value()));
     });
-    slider->setSliderDown(true);
-    bool forward = true;
-    for (auto _ : state) {
-        dragStep(slider, forward);
-        benchmark::DoNotOptimize(received);
-    }
-    slider->setSliderDown(false);
+    dragSteps(state, slider, received);
 }
 
 } // namespace

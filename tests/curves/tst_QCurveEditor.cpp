@@ -446,7 +446,7 @@ void tst_QCurveEditor::irregularDataIsSafe()
     drag(canvas(30, 50), canvas(40, 60));
     QVERIFY(m_editor->GetData().value(1).isEmpty());
 
-    m_editor->OnChangePart(); // part 2 is missing from the map
+    m_editor->OnChangePart(); // the third curve is missing from the map
     QVERIFY(!m_editor->grab().isNull());
     drag(canvas(30, 50), canvas(40, 60));
     QVERIFY(!m_editor->GetData().contains(2));

@@ -20,7 +20,7 @@ static QWidget *createFlowLayoutPage(GalleryContext &ctx)
     auto *panel = new ThumbnailPanel;
     auto *flow = new FlowLayout(panel, 6, 8, 8);
     const char *const names[] = { "Bricks",  "Bumps",   "Rough",   "Metal", "Height",
-                                  "Cavity",  "Opacity", "Glow",    "Spec",  "Gloss",
+                                  "Cavity",  "Opacity", "Glow",    "Sheen", "Gloss",
                                   "Diffuse", "Planks",  "Checker", "Tiles" };
     for (int i = 0; i < 14; ++i) {
         auto *thumb = new QWidget(panel);
