@@ -40,6 +40,21 @@ const QColor kSlotColors[] = {
 };
 
 // The marker colour of a slot: its colour lightened by 64 per channel, slightly transparent.
+// One key marker drawn once into a transparent image, centred on pixel (nReach, nReach): stamping
+// it gives the pixels that drawing the ellipse itself gives, for a fraction of the cost.
+QImage MarkerStamp(int nRadius, int nReach, const QPen &kPen, const QBrush &kBrush, qreal fRatio)
+{
+    const int nSide = 2 * nReach + 1;
+    QImage kStamp(QSize(nSide, nSide) * fRatio, QImage::Format_ARGB32_Premultiplied);
+    kStamp.setDevicePixelRatio(fRatio);
+    kStamp.fill(Qt::transparent);
+    QPainter kPainter(&kStamp);
+    kPainter.setPen(kPen);
+    kPainter.setBrush(kBrush);
+    kPainter.drawEllipse(QPoint(nReach, nReach), nRadius, nRadius);
+    return kStamp;
+}
+
 QColor MarkerColor(const QColor &kColor)
 {
     return QColor(std::min(255, kColor.red() + 64), std::min(255, kColor.green() + 64),
@@ -204,16 +219,10 @@ void QVisemeCurveWidgetLite::paintEvent(QPaintEvent *)
     const CVisemeUIData *pkCurrent = GetCurrentSlot();
     const bool bShowCurrent = pkCurrent && pkCurrent->m_bInUse && !pkCurrent->m_strName.isEmpty();
     QVarLengthArray<QPoint, 256> akCurrentPixels;
-    QVector<QString> lstCurrentLabels;
     if (bShowCurrent) {
         akCurrentPixels.reserve(pkCurrent->m_lstKeys.size());
         for (const QPointF &kKey : pkCurrent->m_lstKeys)
             akCurrentPixels.append(RevertNormalizedPoint(kKey));
-        if (m_bShowWeightingAtPoint) {
-            lstCurrentLabels.reserve(pkCurrent->m_lstKeys.size());
-            for (const QPointF &kKey : pkCurrent->m_lstKeys)
-                lstCurrentLabels.append(QString::number(kKey.y() * 100.0, 'g', 6));
-        }
     }
     // Pens and brushes are made once: setting them per key then only shares them.
     const QColor kCurrentMarker = pkCurrent ? MarkerColor(pkCurrent->m_kColor) : QColor();
@@ -221,7 +230,48 @@ void QVisemeCurveWidgetLite::paintEvent(QPaintEvent *)
     const QPen kDotPen(kCurrentMarker);
     const QBrush kRingBrush(QColor(255, 255, 255, 0));
     const QBrush kMarkerBrush(kCurrentMarker);
-    const QFont kLabelFont(QStringLiteral("Bavaria"), 10, QFont::Normal, false);
+    // The weight labels too are drawn after every curve: lay each out and rasterise it once per
+    // frame, clipped to its rectangle as drawing it there would clip it.
+    QVector<QRect> akLabelRects;
+    QVector<QImage> akLabelStamps;
+    if (bShowCurrent && m_bShowWeightingAtPoint) {
+        const QFont kLabelFont(QStringLiteral("Bavaria"), 10, QFont::Normal, false);
+        const qreal fRatio = devicePixelRatioF();
+        akLabelRects.reserve(akCurrentPixels.size());
+        akLabelStamps.reserve(akCurrentPixels.size());
+        for (int k = 0; k < akCurrentPixels.size(); ++k) {
+            const QPoint kPixel = akCurrentPixels[k];
+            const QPointF &kKey = pkCurrent->m_lstKeys.at(k);
+            const QRect kLabelRect = kKey.x() >= kRightLabelLimit && kKey.y() != 0.0
+                ? QRect(QPoint(kPixel.x() - 28, kPixel.y() - 8),
+                        QPoint(kPixel.x() - 8, kPixel.y() + 3))
+                : QRect(QPoint(kPixel.x() + 8, kPixel.y() - 8),
+                        QPoint(kPixel.x() + 28, kPixel.y() + 3));
+            QImage kStamp(kLabelRect.size() * fRatio, QImage::Format_ARGB32_Premultiplied);
+            kStamp.setDevicePixelRatio(fRatio);
+            // Text in the stamp has the size it has on this widget's screen.
+            kStamp.setDotsPerMeterX(qRound(logicalDpiX() / 0.0254));
+            kStamp.setDotsPerMeterY(qRound(logicalDpiY() / 0.0254));
+            kStamp.fill(Qt::transparent);
+            QPainter kStampPainter(&kStamp);
+            kStampPainter.setPen(Qt::black);
+            kStampPainter.setFont(kLabelFont);
+            kStampPainter.drawText(QRect(QPoint(0, 0), kLabelRect.size()), Qt::TextSingleLine,
+                                   QString::number(kKey.y() * 100.0, 'g', 6));
+            kStampPainter.end();
+            akLabelRects.append(kLabelRect);
+            akLabelStamps.append(kStamp);
+        }
+    }
+    // The current slot's markers are stamped after every curve: rasterise them once per frame.
+    constexpr int kDotReach = 6;
+    constexpr int kRingReach = 11;
+    QImage kDotStamp;
+    QImage kRingStamp;
+    if (bShowCurrent) {
+        kDotStamp = MarkerStamp(5, kDotReach, kDotPen, kMarkerBrush, devicePixelRatioF());
+        kRingStamp = MarkerStamp(9, kRingReach, kRingPen, kRingBrush, devicePixelRatioF());
+    }
     QVarLengthArray<QPoint, 256> akCurve;
 
     for (const CVisemeUIData &kSlot : m_akVisemeData) {
@@ -238,31 +288,15 @@ void QVisemeCurveWidgetLite::paintEvent(QPaintEvent *)
 
         if (bShowCurrent) {
             for (int k = 0; k < akCurrentPixels.size(); ++k) {
-                if (k == pkCurrent->m_nSelectedKey) {
-                    kPainter.setPen(kRingPen);
-                    kPainter.setBrush(kRingBrush);
-                    kPainter.drawEllipse(akCurrentPixels[k], 9, 9);
-                }
-                kPainter.setPen(kDotPen);
-                kPainter.setBrush(kMarkerBrush);
-                kPainter.drawEllipse(akCurrentPixels[k], 5, 5);
+                const QPoint kPixel = akCurrentPixels[k];
+                if (k == pkCurrent->m_nSelectedKey)
+                    kPainter.drawImage(kPixel - QPoint(kRingReach, kRingReach), kRingStamp);
+                kPainter.drawImage(kPixel - QPoint(kDotReach, kDotReach), kDotStamp);
             }
         }
 
-        if (bShowCurrent && m_bShowWeightingAtPoint) {
-            kPainter.setPen(Qt::black);
-            kPainter.setFont(kLabelFont);
-            for (int k = 0; k < akCurrentPixels.size(); ++k) {
-                const QPoint kPixel = akCurrentPixels[k];
-                const QPointF &kKey = pkCurrent->m_lstKeys.at(k);
-                const QRect kLabelRect = kKey.x() >= kRightLabelLimit && kKey.y() != 0.0
-                    ? QRect(QPoint(kPixel.x() - 28, kPixel.y() - 8),
-                            QPoint(kPixel.x() - 8, kPixel.y() + 3))
-                    : QRect(QPoint(kPixel.x() + 8, kPixel.y() - 8),
-                            QPoint(kPixel.x() + 28, kPixel.y() + 3));
-                kPainter.drawText(kLabelRect, Qt::TextSingleLine, lstCurrentLabels.at(k));
-            }
-        }
+        for (int k = 0; k < akLabelStamps.size(); ++k)
+            kPainter.drawImage(akLabelRects.at(k).topLeft(), akLabelStamps.at(k));
 
         if (m_bSinglePhoneme) {
             kPainter.setPen(Qt::black);
