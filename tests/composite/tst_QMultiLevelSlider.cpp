@@ -9,6 +9,7 @@
 #include <QLayout>
 #include <QtTest>
 
+#include <limits>
 #include <memory>
 
 using Indicators = Vela::CArrayList<QMultiLevelSlider::IndicatorDesc>;
@@ -177,6 +178,8 @@ void tst_QMultiLevelSlider::initUiValidation_data()
                                   << 0x80000003u;
     QTest::newRow("inverted bounds")
         << 100 << 0 << false << QList<int> { 10 } << same << same << 0x80000003u;
+    QTest::newRow("range wider than int") << std::numeric_limits<int>::min() << 1 << false
+                                          << QList<int> { 0 } << same << same << 0x80000003u;
     QTest::newRow("below minimum")
         << 0 << 100 << false << QList<int> { -1, 20 } << same << same << 0x80000003u;
     QTest::newRow("above maximum")

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 // Track length and range used as divisors: a slider narrower than its images, or one that has not
 // been initialised yet, still computes finite positions.
@@ -43,7 +44,8 @@ Vela::Result QMultiLevelSlider::CheckInputData(int nMinimum, int nMaximum, bool 
                                                const QPixmap *pkNormal, const QPixmap *pkSelected,
                                                const QPixmap *pkHover) const
 {
-    if (nMinimum >= nMaximum)
+    // The range has to be an int itself: positions are measured from the minimum.
+    if (nMinimum >= nMaximum || qint64(nMaximum) - nMinimum > std::numeric_limits<int>::max())
         return Vela::Result::InvalidArgument;
     for (std::size_t i = 0; i < kIndicators.size(); ++i) {
         const int nValue = kIndicators[i].nValue;
