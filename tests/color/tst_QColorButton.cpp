@@ -103,6 +103,11 @@ void tst_QColorButton::properties()
     QCOMPARE(iconColor(*m_button), QColor(Qt::red));
     m_button->setIconSize(QSize(60, 25));
     QCOMPARE(iconColor(*m_button), QColor(Qt::red));
+
+    // A huge icon size costs no more than a large icon.
+    m_button->setIconSize(QSize(60000, 60000));
+    QCOMPARE(m_button->iconSize(), QSize(60000, 60000));
+    QCOMPARE(m_button->icon().availableSizes(), QList<QSize> { QSize(1024, 1024) });
 }
 
 void tst_QColorButton::setColorEmitsOnlyOnChange()
