@@ -80,7 +80,8 @@ public:
 
     // The mappings between spin values and slider positions (identity by default). Setting the
     // spin-to-slider mapping moves the slider (and, unless the spin range is independent,
-    // re-derives its range) at once.
+    // re-derives its range) at once. Both must stay callable: the widget calls them on every
+    // change, and passing an empty function is the caller's error (std::bad_function_call).
     void SetSpinToSlider(std::function<int(int)> fnSpinToSlider);
     void SetSliderToSpin(std::function<int(int)> fnSliderToSpin);
 
