@@ -307,6 +307,25 @@ QWidget *CreateModifyTable(GalleryContext &kContext)
     return pkTable;
 }
 
+// One channel as the modify table shows it, on its own: a host can place cells in a layout of its
+// choosing. Each drag is one edit session.
+QWidget *CreateModifyCell(GalleryContext &kContext)
+{
+    auto *pkCell = new CKdFKModifyCellWidget;
+    pkCell->SetItem(7, 35, QStringLiteral("Brow_Raise_L"), Vela::CArrayList<int> { 0, 100 },
+                    Vela::CArrayList<int> { -50, 150 }, nullptr);
+    QObject::connect(pkCell, &CKdFKModifyCellWidget::SliderEditStarted, pkCell,
+                     [&kContext] { kContext.log(QStringLiteral("SliderEditStarted()")); });
+    QObject::connect(pkCell, &CKdFKModifyCellWidget::SliderValueChanged, pkCell,
+                     [&kContext](int nValue) {
+                         kContext.log(QStringLiteral("SliderValueChanged(%1)").arg(nValue));
+                     });
+    QObject::connect(pkCell, &CKdFKModifyCellWidget::SliderEditFinished, pkCell,
+                     [&kContext] { kContext.log(QStringLiteral("SliderEditFinished()")); });
+    pkCell->setMinimumWidth(360);
+    return pkCell;
+}
+
 } // namespace
 
 GALLERY_ENTRY({ 60, "Facial", "QKdFKTemplateTableManager",
@@ -317,3 +336,8 @@ GALLERY_ENTRY({ 60, "Facial", "QKdFKModifyTableManager",
                 "Facial-key modify channels with ranges from the rig's INI file; drag a slider "
                 "or double-click a channel to toggle it between 0 and 100",
                 CreateModifyTable })
+
+GALLERY_ENTRY({ 60, "Facial", "CKdFKModifyCellWidget",
+                "One facial-key channel: a named slider-spin box whose drags are reported as edit "
+                "sessions (started, values, finished); the spin box reaches past the slider",
+                CreateModifyCell })
