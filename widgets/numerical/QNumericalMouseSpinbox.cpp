@@ -1,6 +1,7 @@
 #include "QNumericalMouseSpinbox.h"
 
 #include "QMouseSpinBox.h"
+#include "VelaNumericalRowPrivate.h"
 #include "VelaNumericalSliderPrivate.h"
 
 #include <QBoxLayout>
@@ -28,12 +29,12 @@ Vela::CVector4<float> QNumericalMouseSpinbox::GetValue()
 
 unsigned int QNumericalMouseSpinbox::GetSliderCount(Vela::EDynamicWidgetVariableType eType)
 {
-    return NumericalSlider::ComponentCount(eType);
+    return static_cast<unsigned int>(DynamicVariableComponentCount(eType));
 }
 
 bool QNumericalMouseSpinbox::IsFloatType(Vela::EDynamicWidgetVariableType eType)
 {
-    return NumericalSlider::IsFloat(eType);
+    return IsFloatVariableType(eType);
 }
 
 void QNumericalMouseSpinbox::CreateUi(const Lu::CDynamicWidgetVariableBase &var,
@@ -54,7 +55,7 @@ void QNumericalMouseSpinbox::CreateUi(const Lu::CDynamicWidgetVariableBase &var,
     pRowLayout->setSpacing(15);
     pRowLayout->setContentsMargins(0, 15, 0, 15);
     pRowLayout->addWidget(new QLabel(GetName()));
-    NumericalSlider::AddToMainLayout(this, pRowLayout);
+    AddNumericalRow(this, pRowLayout);
 
     CMap<int, std::string> kLabels = desc.mapLabels;
     for (int i = 0; i < m_listMouseSpinBoxes.size(); ++i) {

@@ -1,6 +1,7 @@
 #include "QNumericalWidgetMultiLevelSlider.h"
 
 #include "QMultiLevelSlider.h"
+#include "VelaNumericalRowPrivate.h"
 #include "VelaNumericalSliderPrivate.h"
 
 #include <QColor>
@@ -61,12 +62,12 @@ void QNumericalWidgetMultiLevelSlider::SetDecimals(unsigned int n)
 
 unsigned int QNumericalWidgetMultiLevelSlider::SliderCount(Vela::EDynamicWidgetVariableType eType)
 {
-    return NumericalSlider::ComponentCount(eType);
+    return static_cast<unsigned int>(DynamicVariableComponentCount(eType));
 }
 
 bool QNumericalWidgetMultiLevelSlider::IsFloatType(Vela::EDynamicWidgetVariableType eType)
 {
-    return NumericalSlider::IsFloat(eType);
+    return IsFloatVariableType(eType);
 }
 
 void QNumericalWidgetMultiLevelSlider::CreateUi(const Lu::CDynamicWidgetVariableBase &var,
@@ -97,7 +98,7 @@ void QNumericalWidgetMultiLevelSlider::CreateUi(const Lu::CDynamicWidgetVariable
                                 QColor(200, 200, 200, 255));
 
     m_pLabel = NumericalSlider::MakeCaption(this, GetName());
-    QLayout *pMainLayout = NumericalSlider::MainLayout(this);
+    QLayout *pMainLayout = NumericalMainLayout(this);
     pMainLayout->addWidget(m_pLabel);
     pMainLayout->addWidget(m_pMultiLevelSlider);
 

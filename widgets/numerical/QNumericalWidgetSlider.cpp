@@ -2,6 +2,7 @@
 
 #include "QComboDoubleSpinBox.h"
 #include "QGroupWidget.h"
+#include "VelaNumericalRowPrivate.h"
 #include "VelaNumericalSliderPrivate.h"
 
 #include <QLabel>
@@ -29,7 +30,7 @@ StepRule StepRuleFor(EDynamicWidgetVariableType eInputType, EDynamicWidgetBehavi
                      const Lu::CDynamicWidgetDescBase &desc)
 {
     StepRule kRule;
-    if (NumericalSlider::IsFloat(eInputType)) {
+    if (IsFloatVariableType(eInputType)) {
         kRule.dStep = 0.01;
         kRule.nDecimals = desc.uDecimals;
     } else {
@@ -100,12 +101,12 @@ void QNumericalWidgetSlider::SetDecimals(unsigned int n)
 
 unsigned int QNumericalWidgetSlider::SliderCount(Vela::EDynamicWidgetVariableType eType)
 {
-    return NumericalSlider::ComponentCount(eType);
+    return static_cast<unsigned int>(DynamicVariableComponentCount(eType));
 }
 
 bool QNumericalWidgetSlider::IsFloatType(Vela::EDynamicWidgetVariableType eType)
 {
-    return NumericalSlider::IsFloat(eType);
+    return IsFloatVariableType(eType);
 }
 
 void QNumericalWidgetSlider::CreateUi(const Lu::CDynamicWidgetVariableBase &var,
@@ -123,7 +124,7 @@ void QNumericalWidgetSlider::CreateUi(const Lu::CDynamicWidgetVariableBase &var,
         m_listComboSpins.append(pComboSpin);
     }
 
-    QLayout *pMainLayout = NumericalSlider::MainLayout(this);
+    QLayout *pMainLayout = NumericalMainLayout(this);
     if (m_listComboSpins.size() != 1) {
         // Object names cannot hold blanks: the group is named after the input with underscores.
         QString strGroupName = GetName();

@@ -10,20 +10,31 @@
 
 namespace Vela {
 
-// Adds one row of editors to a numerical widget's own layout. Initialize installs a vertical box
-// layout; a host that installed some other layout beforehand gets the row wrapped in a plain
-// widget, so that nothing is lost.
+// The layout a numerical widget's editors go into. Initialize always provides one; a widget
+// re-described before it was initialised gets the same margin-free vertical layout.
+inline QLayout *NumericalMainLayout(QWidget *pOwner)
+{
+    if (QLayout *pLayout = pOwner->layout())
+        return pLayout;
+    auto *pLayout = new QVBoxLayout(pOwner);
+    pLayout->setSpacing(0);
+    pLayout->setContentsMargins(0, 0, 0, 0);
+    return pLayout;
+}
+
+// Adds one row of editors below what the widget's layout already holds. A host that installed
+// some other layout than a box layout beforehand gets the row wrapped in a plain widget, so that
+// nothing is lost.
 inline void AddNumericalRow(QWidget *pOwner, QLayout *pRow)
 {
-    QLayout *pLayout = pOwner->layout();
+    QLayout *pLayout = NumericalMainLayout(pOwner);
     if (auto *pBox = qobject_cast<QBoxLayout *>(pLayout)) {
         pBox->addLayout(pRow);
         return;
     }
     auto *pHolder = new QWidget(pOwner);
     pHolder->setLayout(pRow);
-    if (pLayout)
-        pLayout->addWidget(pHolder);
+    pLayout->addWidget(pHolder);
 }
 
 // Truncates toward zero like a plain conversion; values beyond the int range are clamped to it

@@ -2,44 +2,11 @@
 
 #include "VelaComboEditorPrivate.h"
 
-#include <QBoxLayout>
 #include <QLabel>
 #include <QWidget>
 
 namespace Vela {
 namespace NumericalSlider {
-
-unsigned int ComponentCount(EDynamicWidgetVariableType eType)
-{
-    return static_cast<unsigned int>(DynamicVariableComponentCount(eType));
-}
-
-bool IsFloat(EDynamicWidgetVariableType eType)
-{
-    return IsFloatVariableType(eType);
-}
-
-QLayout *MainLayout(QWidget *widget)
-{
-    if (QLayout *pLayout = widget->layout())
-        return pLayout;
-    auto *pLayout = new QVBoxLayout(widget);
-    pLayout->setSpacing(0);
-    pLayout->setContentsMargins(0, 0, 0, 0);
-    return pLayout;
-}
-
-void AddToMainLayout(QWidget *widget, QLayout *pLayout)
-{
-    QLayout *pMain = MainLayout(widget);
-    if (auto *pBox = qobject_cast<QBoxLayout *>(pMain)) {
-        pBox->addLayout(pLayout);
-        return;
-    }
-    auto *pHolder = new QWidget(widget);
-    pHolder->setLayout(pLayout);
-    pMain->addWidget(pHolder);
-}
 
 QLabel *MakeCaption(QWidget *widget, const QString &strName)
 {
