@@ -1,9 +1,13 @@
 #ifndef COLORTESTSUPPORT_H
 #define COLORTESTSUPPORT_H
 
+#include "QColorButton.h"
+
 #include <QApplication>
+#include <QColorDialog>
 #include <QDialog>
 #include <QPointer>
+#include <QTest>
 #include <QTimer>
 #include <QWidget>
 
@@ -28,6 +32,23 @@ inline void onModal(const std::function<void(QDialog *)> &action, bool *ran, int
             onModal(action, ran, attempts - 1);
         }
     });
+}
+
+// One colour session as a user has it: a click on the button opens its modal dialog, `action`
+// works in it, and the dialog is closed when the click returns.
+inline void runButtonSession(QColorButton *button,
+                             const std::function<void(QColorDialog *)> &action)
+{
+    bool ran = false;
+    onModal(
+        [&](QDialog *dialog) {
+            QCOMPARE(dialog, static_cast<QDialog *>(button->ColorDialogUi()));
+            action(button->ColorDialogUi());
+        },
+        &ran);
+    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(ran);
+    QVERIFY(!button->ColorDialogUi()->isVisible());
 }
 
 // The first descendant of `parent` whose class is exactly `className` (Qt's private classes have

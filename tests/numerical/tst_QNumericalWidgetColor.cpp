@@ -81,16 +81,7 @@ void tst_QNumericalWidgetColor::cleanup()
 
 void tst_QNumericalWidgetColor::runDialog(const std::function<void(QColorDialog *)> &action)
 {
-    bool ran = false;
-    ColorTest::onModal(
-        [&](QDialog *dialog) {
-            QCOMPARE(dialog, static_cast<QDialog *>(m_button->ColorDialogUi()));
-            action(m_button->ColorDialogUi());
-        },
-        &ran);
-    QTest::mouseClick(m_button, Qt::LeftButton);
-    QVERIFY(ran);
-    QVERIFY(!m_button->ColorDialogUi()->isVisible());
+    ColorTest::runButtonSession(m_button, action);
 }
 
 void tst_QNumericalWidgetColor::construction()
