@@ -81,24 +81,26 @@ void QNumericalWidgetColorPresetButtons::UpdateUi(const Vela::CVector4<float> &v
 
 void QNumericalWidgetColorPresetButtons::OnClicked1()
 {
-    m_nPreset = 1;
-    emit ClickedButton(m_nPreset);
+    ChoosePreset(1);
 }
 
 void QNumericalWidgetColorPresetButtons::OnClicked2()
 {
-    m_nPreset = 2;
-    emit ClickedButton(m_nPreset);
+    ChoosePreset(2);
 }
 
 void QNumericalWidgetColorPresetButtons::OnClicked3()
 {
-    m_nPreset = 3;
-    emit ClickedButton(m_nPreset);
+    ChoosePreset(3);
 }
 
 void QNumericalWidgetColorPresetButtons::OnClicked4()
 {
-    m_nPreset = 4;
+    ChoosePreset(4);
+}
+
+void QNumericalWidgetColorPresetButtons::ChoosePreset(int nPreset)
+{
+    m_nPreset = nPreset;
     emit ClickedButton(m_nPreset);
 }

@@ -36,6 +36,9 @@ private slots:
     void OnClicked4();
 
 private:
+    // Records the swatch as chosen and reports it.
+    void ChoosePreset(int nPreset);
+
     QLabel *m_pLabel = nullptr;
     QToolButton *m_pButton1 = nullptr;
     QToolButton *m_pButton2 = nullptr;
