@@ -69,6 +69,7 @@ private slots:
     void middleModeNeedsThreeOrderedIndicators();
     void geometry();
     void setIndicatorValue();
+    void extremeMinimumStillPaints();
     void minimumGapWhileDragging();
     void dragToTrackStartStoresZero();
     void callbacks();
@@ -315,6 +316,17 @@ void tst_QMultiLevelSlider::setIndicatorValue()
     QCOMPARE(m_slider->GetIndicatorValue(2), 150);
     m_slider->SetSelectedIndicator(2);
     QCOMPARE(m_slider->GetSelectedIndicator(), 2ull);
+}
+
+void tst_QMultiLevelSlider::extremeMinimumStillPaints()
+{
+    // SetMin does not re-derive the range: positions must still be computable (and paintable)
+    // when the minimum lies as far from the values as an int allows.
+    QVERIFY(init(0, 10000, indicators({ 9252 }), false, false));
+    m_slider->SetMin(std::numeric_limits<int>::min());
+    show(200);
+    QVERIFY(!paint().isNull());
+    QCOMPARE(m_slider->GetIndicatorValue(0), 9252);
 }
 
 void tst_QMultiLevelSlider::minimumGapWhileDragging()

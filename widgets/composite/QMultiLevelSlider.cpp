@@ -221,7 +221,8 @@ int QMultiLevelSlider::GetIndicatorPosX(unsigned long long uIndex) const
 
 int QMultiLevelSlider::GetIndicatorImagePosX(unsigned long long uIndex) const
 {
-    const float fOffset = float(GetIndicatorValue(uIndex) - m_nMinimum);
+    // SetMin may leave the minimum anywhere below or above the values: measure in 64 bits.
+    const float fOffset = float(qint64(GetIndicatorValue(uIndex)) - m_nMinimum);
     return int(std::lround(float(GetTrackLength()) * fOffset / SafeDivisor(m_nRange)));
 }
 
