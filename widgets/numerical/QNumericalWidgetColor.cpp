@@ -37,10 +37,8 @@ void QNumericalWidgetColor::SetUndoRedoFunctions(std::function<void()> kBegin,
                                                  std::function<void()> kAccepted,
                                                  std::function<void()> kReverted)
 {
-    if (!m_pColorButton)
-        return;
-    m_pColorButton->SetUndoRedoFunctions(std::move(kBegin), std::move(kEnd), std::move(kAccepted),
-                                         std::move(kReverted));
+    Vela::SetColorButtonUndoRedo(m_pColorButton, std::move(kBegin), std::move(kEnd),
+                                 std::move(kAccepted), std::move(kReverted));
 }
 
 void QNumericalWidgetColor::CreateUi(const Lu::CDynamicWidgetVariableBase &var,

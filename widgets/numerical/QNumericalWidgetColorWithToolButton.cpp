@@ -57,10 +57,8 @@ void QNumericalWidgetColorWithToolButton::SetUndoRedoFunctions(std::function<voi
                                                                std::function<void()> kAccepted,
                                                                std::function<void()> kReverted)
 {
-    if (!m_pColorButton)
-        return;
-    m_pColorButton->SetUndoRedoFunctions(std::move(kBegin), std::move(kEnd), std::move(kAccepted),
-                                         std::move(kReverted));
+    Vela::SetColorButtonUndoRedo(m_pColorButton, std::move(kBegin), std::move(kEnd),
+                                 std::move(kAccepted), std::move(kReverted));
 }
 
 void QNumericalWidgetColorWithToolButton::CreateUi(const Lu::CDynamicWidgetVariableBase &var,

@@ -9,6 +9,8 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace Vela {
 
@@ -36,6 +38,17 @@ inline CVector4<float> ColorValueOfButton(const QColorButton *pButton)
         return CVector4<float>(0.0f, 0.0f, 0.0f, 1.0f);
     return CVector4<float>(float(kColor.red()) / 255.0f, float(kColor.green()) / 255.0f,
                            float(kColor.blue()) / 255.0f, 1.0f);
+}
+
+// Hands the host's undo/redo callbacks to the colour button, once the button exists.
+inline void SetColorButtonUndoRedo(QColorButton *pButton, std::function<void()> kBegin,
+                                   std::function<void()> kEnd, std::function<void()> kAccepted,
+                                   std::function<void()> kReverted)
+{
+    if (!pButton)
+        return;
+    pButton->SetUndoRedoFunctions(std::move(kBegin), std::move(kEnd), std::move(kAccepted),
+                                  std::move(kReverted));
 }
 
 } // namespace Vela
