@@ -67,8 +67,18 @@ void EnsureApplication()
     static int argc = 1;
     static char name[] = "vela-fuzz";
     static char *argv[] = { name, nullptr };
+    // Qt's warnings about what the fuzzer feeds (missing icons, bad images) would be printed
+    // thousands of times a second; VELA_FUZZ_TRACE keeps them.
+    if (!qEnvironmentVariableIsSet("VELA_FUZZ_TRACE"))
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     new QApplication(argc, argv);
     VelaCatalog::RejectModalDialogs();
+}
+
+RunScope::~RunScope()
+{
+    QApplication::processEvents();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace VelaFuzz

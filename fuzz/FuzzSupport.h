@@ -38,6 +38,18 @@ private:
 // Creates the QApplication once (offscreen platform).
 void EnsureApplication();
 
+// Brackets one run. It creates the application on first use and, once the run's own objects are
+// gone, delivers what they posted and deletes what they scheduled for deletion: there is no event
+// loop between runs, and anything left over would pile up and slow every later run.
+class RunScope
+{
+public:
+    RunScope() { EnsureApplication(); }
+    ~RunScope();
+    RunScope(const RunScope &) = delete;
+    RunScope &operator=(const RunScope &) = delete;
+};
+
 } // namespace VelaFuzz
 
 #endif // FUZZSUPPORT_H

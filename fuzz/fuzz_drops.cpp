@@ -53,7 +53,7 @@ static QMimeData *randomMimeData(Input &in, const QTemporaryDir &dir)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    EnsureApplication();
+    const RunScope scope;
     static QTemporaryDir dir;
     Input in(data, size);
     const QVector<VelaCatalog::Entry> &factories = VelaCatalog::Widgets();
@@ -86,6 +86,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             QApplication::sendEvent(target, &leave);
         }
     }
-    QApplication::processEvents();
     return 0;
 }

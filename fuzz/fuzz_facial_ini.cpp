@@ -1,7 +1,10 @@
 // Random bytes as the host's facial-key INI file.
 #include "FuzzSupport.h"
 
+#include "CKdFKModifyCellWidget.h"
 #include "QKdFKModifyTableManager.h"
+
+#include <QApplication>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -10,7 +13,7 @@ using namespace VelaFuzz;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    EnsureApplication();
+    const RunScope scope;
     static QTemporaryDir dir;
     // A new name every run: QSettings caches what it read per path.
     static int run = 0;
@@ -27,6 +30,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         table.resize(400, 300);
         table.show();
         table.grab();
+    }
+    // The table leaves the cells it makes without a parent, for the host to free.
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (qobject_cast<CKdFKModifyCellWidget *>(widget))
+            delete widget;
     }
     QFile::remove(path);
     return 0;

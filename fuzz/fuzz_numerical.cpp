@@ -77,7 +77,7 @@ const std::function<QNumericalWidgetBase *()> kWidgets[] = {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    EnsureApplication();
+    const RunScope scope;
     Input in(data, size);
     const int count = int(sizeof(kWidgets) / sizeof(kWidgets[0]));
     std::unique_ptr<QNumericalWidgetBase> widget(kWidgets[in.index(count)]());

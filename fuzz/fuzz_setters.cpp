@@ -128,7 +128,7 @@ static void sendRandomInput(QWidget *widget, Input &in)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    EnsureApplication();
+    const RunScope scope;
     Input in(data, size);
     const QVector<VelaCatalog::Entry> &factories = VelaCatalog::Widgets();
     const VelaCatalog::Entry &entry = factories.at(in.index(factories.size()));
@@ -184,6 +184,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             break;
         }
     }
-    QApplication::processEvents();
     return 0;
 }

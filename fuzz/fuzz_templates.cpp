@@ -25,7 +25,7 @@ static QByteArray samplePng()
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    EnsureApplication();
+    const RunScope scope;
     static const QByteArray png = samplePng();
     Input in(data, size);
     QTemporaryDir dir;
