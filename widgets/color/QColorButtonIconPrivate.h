@@ -12,7 +12,7 @@ namespace Vela {
 // colour has not been set yet shows black. The pixmap is never made larger than kMaxColorIconSide
 // on a side (the icon is scaled up when drawn larger): an icon size set by mistake to tens of
 // thousands of pixels must not cost gigabytes.
-constexpr int kMaxColorIconSide = 1024;
+constexpr int kMaxColorIconSide = 256;
 
 inline QIcon ColorButtonIcon(const QSize &kSize, const QColor &kColor)
 {
