@@ -5,16 +5,22 @@
 // position as a user does, double-clicking, typing into a spin box, and a folder holding the
 // arrow images that the editors look for in the current folder.
 
+#include "QSliderEx.h"
+
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTemporaryDir>
+#include <QVBoxLayout>
 #include <QtTest>
+
+#include <memory>
 
 namespace ComboEditorTest {
 
@@ -90,11 +96,6 @@ inline void dragHandle(QSlider *slider, int distance)
         QCOMPARE((slider)->value(), (target));                                                     \
     } while (false)
 
-inline void doubleClick(QWidget *widget, Qt::MouseButton button, QPoint pos = QPoint())
-{
-    QTest::mouseDClick(widget, button, Qt::NoModifier, pos);
-}
-
 // Focuses the spin box, replaces its text as a user does and presses Enter.
 #define COMBO_TYPE_INTO(spinBox, text)                                                             \
     do {                                                                                           \
@@ -133,6 +134,70 @@ private:
     QTemporaryDir m_dir;
     QString m_previous;
 };
+
+// The names of the properties a class declares itself, in declaration order.
+inline QStringList propertyNames(const QMetaObject *meta)
+{
+    QStringList names;
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        names << QLatin1String(meta->property(i).name());
+    return names;
+}
+
+// A shown, active window holding a line edit that has the focus and, below it, one editor whose
+// ValueChanged and EditFinished signals are logged in the order the host receives them.
+template<class Editor, class Spin>
+struct Harness
+{
+    QStringList log; // first: the window's teardown may still report an edit
+    std::unique_ptr<QWidget> window { new QWidget };
+    QLineEdit *other = new QLineEdit(window.get());
+    Editor *editor = new Editor(window.get());
+    QSliderEx *slider = editor->UI()->qtHorizontalSlider;
+    Spin *spin = editor->template findChild<Spin *>();
+
+    explicit Harness(int width)
+    {
+        auto *layout = new QVBoxLayout(window.get());
+        layout->addWidget(other);
+        layout->addWidget(editor);
+        editor->setText(QStringLiteral("Strength"));
+        editor->setMinimumWidth(width);
+        QObject::connect(editor, &Editor::ValueChanged, editor, [this](auto value) {
+            log << QStringLiteral("ValueChanged(%1)").arg(value);
+        });
+        QObject::connect(editor, &Editor::EditFinished, editor,
+                         [this] { log << QStringLiteral("EditFinished"); });
+    }
+    // Shows the window and leaves the focus on the line edit; false when that failed.
+    bool show()
+    {
+        window->show();
+        if (!QTest::qWaitForWindowActive(window.get()))
+            return false;
+        other->setFocus();
+        const bool focused = QTest::qWaitFor([this] { return other->hasFocus(); });
+        log.clear();
+        return focused;
+    }
+    // Double-clicks the caption or the slider's handle with `button`.
+    void doubleClick(bool onLabel, Qt::MouseButton button)
+    {
+        QWidget *target = onLabel ? static_cast<QWidget *>(editor->UI()->qtLabel) : slider;
+        QTest::mouseDClick(target, button, Qt::NoModifier,
+                           onLabel ? QPoint() : handleRect(slider).center());
+    }
+};
+
+// The rows of a double-click reset table: where, with which button, on an enabled editor, and
+// whether the value returns to its default.
+inline void addDoubleClickColumns()
+{
+    QTest::addColumn<bool>("onLabel");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("resets");
+}
 
 } // namespace ComboEditorTest
 
