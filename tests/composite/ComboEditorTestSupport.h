@@ -71,6 +71,14 @@ inline int dragDistanceTo(const QSlider *slider, int target)
     return -1;
 }
 
+// A mouse move with `buttons` held, delivered straight to the widget.
+inline void moveHeld(QWidget *widget, const QPoint &pos, Qt::MouseButtons buttons = Qt::LeftButton)
+{
+    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+}
+
 // Presses the left button on the handle, moves it in a few steps and releases it.
 inline void dragHandle(QSlider *slider, int distance)
 {
@@ -80,9 +88,7 @@ inline void dragHandle(QSlider *slider, int distance)
     QPoint to = from;
     for (int i = 1; i <= steps; ++i) {
         to = from + QPoint(distance * i / steps, 0);
-        QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(slider, &move);
+        moveHeld(slider, to);
     }
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
 }
