@@ -186,23 +186,69 @@ struct Harness
         log.clear();
         return focused;
     }
-    // Double-clicks the caption or the slider's handle with `button`.
-    void doubleClick(bool onLabel, Qt::MouseButton button)
+    // SetValue reports the new value once, and neither child reports a change of its own.
+    template<class Value>
+    void checkSetValueIsSilent(Value value, int position)
     {
+        QSignalSpy spinSpy(spin, QOverload<Value>::of(&Spin::valueChanged));
+        QSignalSpy sliderSpy(slider, &QSlider::valueChanged);
+        editor->SetValue(value);
+        QCOMPARE(log, QStringList { QStringLiteral("ValueChanged(%1)").arg(value) });
+        QCOMPARE(spinSpy.count(), 0);
+        QCOMPARE(sliderSpy.count(), 0);
+        QCOMPARE(editor->Value(), value);
+        QCOMPARE(slider->value(), position);
+    }
+    // Runs the current row of the double-click table (addDoubleClickRows) on the editor holding
+    // `start` with the default `reset`, which the slider shows at `resetPosition`.
+    template<class Value>
+    void doubleClickReset(Value start, Value reset, int resetPosition)
+    {
+        QFETCH(bool, onLabel);
+        QFETCH(int, button);
+        QFETCH(bool, enabled);
+        QFETCH(bool, resetFlag);
+        QFETCH(bool, resets);
+        editor->SetDefaultValue(reset);
+        editor->SetResetOnDoubleClick(resetFlag);
+        editor->SetValue(start);
+        editor->setEnabled(enabled);
+        log.clear();
+
         QWidget *target = onLabel ? static_cast<QWidget *>(editor->UI()->qtLabel) : slider;
-        QTest::mouseDClick(target, button, Qt::NoModifier,
+        QTest::mouseDClick(target, Qt::MouseButton(button), Qt::NoModifier,
                            onLabel ? QPoint() : handleRect(slider).center());
+        QVERIFY(!slider->isSliderDown());
+        if (!resets) {
+            QVERIFY(log.filter(QStringLiteral("ValueChanged")).isEmpty());
+            QVERIFY(!log.contains(QStringLiteral("EditFinished")));
+            QCOMPARE(editor->Value(), start);
+            return;
+        }
+        QCOMPARE(log,
+                 (QStringList { QStringLiteral("ValueChanged(%1)").arg(reset),
+                                QStringLiteral("EditFinished") }));
+        QCOMPARE(editor->Value(), reset);
+        QCOMPARE(slider->value(), resetPosition);
+        QCOMPARE(slider->objectName(), QStringLiteral("UneditedWidget"));
     }
 };
 
-// The rows of a double-click reset table: where, with which button, on an enabled editor, and
-// whether the value returns to its default.
-inline void addDoubleClickColumns()
+// Where a double-click lands, with which button, on an enabled editor or not, with the reset
+// switched on or not, and whether the value returns to its default.
+inline void addDoubleClickRows()
 {
     QTest::addColumn<bool>("onLabel");
     QTest::addColumn<int>("button");
     QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("resetFlag");
     QTest::addColumn<bool>("resets");
+    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true << true;
+    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true << true;
+    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << true << false;
+    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << true << false;
+    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << true << false;
+    QTest::newRow("flag off") << true << int(Qt::LeftButton) << true << false << false;
 }
 
 } // namespace ComboEditorTest

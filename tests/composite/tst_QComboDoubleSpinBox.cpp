@@ -100,14 +100,7 @@ void tst_QComboDoubleSpinBox::propertyOrder()
 
 void tst_QComboDoubleSpinBox::setValueEmitsOnceWithoutChildSignals()
 {
-    QSignalSpy spinSpy(m_spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
-    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
-    m_editor->SetValue(12.5);
-    QCOMPARE(m_h->log, QStringList { "ValueChanged(12.5)" });
-    QCOMPARE(spinSpy.count(), 0);
-    QCOMPARE(sliderSpy.count(), 0);
-    QCOMPARE(m_editor->Value(), 12.5);
-    QCOMPARE(m_slider->value(), 1250);
+    m_h->checkSetValueIsSilent(12.5, 1250);
 }
 
 void tst_QComboDoubleSpinBox::truncationTowardZero()
@@ -250,36 +243,12 @@ void tst_QComboDoubleSpinBox::editedMarking()
 
 void tst_QComboDoubleSpinBox::doubleClickReset_data()
 {
-    addDoubleClickColumns();
-    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true;
-    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true;
-    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << false;
-    QTest::newRow("disabled") << true << int(Qt::LeftButton) << false << false;
+    addDoubleClickRows();
 }
 
 void tst_QComboDoubleSpinBox::doubleClickReset()
 {
-    QFETCH(bool, onLabel);
-    QFETCH(int, button);
-    QFETCH(bool, enabled);
-    QFETCH(bool, resets);
-
-    m_editor->SetDefaultValue(2.5);
-    m_editor->SetResetOnDoubleClick(true);
-    m_editor->SetValue(40.0);
-    m_editor->setEnabled(enabled);
-    m_h->log.clear();
-
-    m_h->doubleClick(onLabel, Qt::MouseButton(button));
-    if (resets) {
-        QCOMPARE(m_h->log, (QStringList { "ValueChanged(2.5)", "EditFinished" }));
-        QCOMPARE(m_editor->Value(), 2.5);
-        QCOMPARE(m_slider->value(), 250);
-        QVERIFY(!m_slider->isSliderDown());
-    } else {
-        QVERIFY(m_h->log.isEmpty());
-        QCOMPARE(m_editor->Value(), 40.0);
-    }
+    m_h->doubleClickReset(40.0, 2.5, 250);
 }
 
 VELA_TEST_CLASS(tst_QComboDoubleSpinBox)

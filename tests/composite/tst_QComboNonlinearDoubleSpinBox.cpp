@@ -101,12 +101,7 @@ void tst_QComboNonlinearDoubleSpinBox::logarithmicRange()
 
 void tst_QComboNonlinearDoubleSpinBox::setValueEmitsValueOnce()
 {
-    QSignalSpy spinSpy(m_spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
-    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
-    m_editor->SetValue(10.0);
-    QCOMPARE(m_h->log, QStringList { "ValueChanged(10)" });
-    QCOMPARE(spinSpy.count(), 0);
-    QCOMPARE(sliderSpy.count(), 0);
+    m_h->checkSetValueIsSilent(10.0, 100);
 }
 
 void tst_QComboNonlinearDoubleSpinBox::dragEmitsExponent()
@@ -197,36 +192,12 @@ void tst_QComboNonlinearDoubleSpinBox::editedMarkingInPositions()
 
 void tst_QComboNonlinearDoubleSpinBox::doubleClickReset_data()
 {
-    addDoubleClickColumns();
-    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true;
-    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true;
-    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << false;
-    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << false;
+    addDoubleClickRows();
 }
 
 void tst_QComboNonlinearDoubleSpinBox::doubleClickReset()
 {
-    QFETCH(bool, onLabel);
-    QFETCH(int, button);
-    QFETCH(bool, enabled);
-    QFETCH(bool, resets);
-
-    m_editor->SetDefaultValue(1.0);
-    m_editor->SetResetOnDoubleClick(true);
-    m_editor->SetValue(20.0);
-    m_editor->setEnabled(enabled);
-    m_h->log.clear();
-
-    m_h->doubleClick(onLabel, Qt::MouseButton(button));
-    if (resets) {
-        QCOMPARE(m_h->log, (QStringList { "ValueChanged(1)", "EditFinished" }));
-        QCOMPARE(m_editor->Value(), 1.0);
-        QCOMPARE(m_slider->value(), 0);
-        QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
-    } else {
-        QVERIFY(m_h->log.isEmpty());
-        QCOMPARE(m_editor->Value(), 20.0);
-    }
+    m_h->doubleClickReset(20.0, 1.0, 0);
 }
 
 VELA_TEST_CLASS(tst_QComboNonlinearDoubleSpinBox)

@@ -135,15 +135,8 @@ void tst_QComboSpinBox::propertyOrder()
 
 void tst_QComboSpinBox::setValueEmitsOnceWithoutChildSignals()
 {
-    QSignalSpy spinSpy(m_spin, QOverload<int>::of(&QSpinBox::valueChanged));
-    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
     QSignalSpy sliderRecord(m_slider, &QSliderEx::RecordEditingValue);
-    m_editor->SetValue(42);
-    QCOMPARE(m_h->log, QStringList { "ValueChanged(42)" });
-    QCOMPARE(spinSpy.count(), 0);
-    QCOMPARE(sliderSpy.count(), 0);
-    QCOMPARE(m_editor->Value(), 42);
-    QCOMPARE(m_slider->value(), 42);
+    m_h->checkSetValueIsSilent(42, 42);
 
     // The slider treats the programmatic value as recorded: a later focus change reports nothing.
     m_slider->setFocusPolicy(Qt::StrongFocus);
@@ -331,46 +324,12 @@ void tst_QComboSpinBox::markingRepolishes()
 
 void tst_QComboSpinBox::doubleClickReset_data()
 {
-    QTest::addColumn<bool>("onLabel");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("resetFlag");
-    QTest::addColumn<bool>("resets");
-    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true << true;
-    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true << true;
-    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << true << false;
-    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << true << false;
-    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << true << false;
-    QTest::newRow("flag off") << true << int(Qt::LeftButton) << true << false << false;
+    addDoubleClickRows();
 }
 
 void tst_QComboSpinBox::doubleClickReset()
 {
-    QFETCH(bool, onLabel);
-    QFETCH(int, button);
-    QFETCH(bool, enabled);
-    QFETCH(bool, resetFlag);
-    QFETCH(bool, resets);
-
-    m_editor->SetDefaultValue(5);
-    m_editor->SetResetOnDoubleClick(resetFlag);
-    m_editor->SetValue(30);
-    m_editor->setEnabled(enabled);
-    m_h->log.clear();
-
-    m_h->doubleClick(onLabel, Qt::MouseButton(button));
-    if (resets) {
-        QCOMPARE(m_h->log, (QStringList { "ValueChanged(5)", "EditFinished" }));
-        QCOMPARE(m_editor->Value(), 5);
-        QCOMPARE(m_slider->value(), 5);
-        QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
-    } else {
-        QVERIFY(!m_h->log.contains(QStringLiteral("ValueChanged(5)")));
-        QVERIFY(!m_h->log.contains(QStringLiteral("EditFinished")));
-        QCOMPARE(m_editor->Value(), 30);
-    }
-    if (resetFlag && enabled && !onLabel)
-        QVERIFY(!m_slider->isSliderDown());
+    m_h->doubleClickReset(30, 5, 5);
 }
 
 void tst_QComboSpinBox::labelOrientationIsStoredOnly()

@@ -103,6 +103,14 @@ private:
     QPoint centreOf(unsigned long long index) const;
     void drag(unsigned long long index, int toX);
     QImage paint();
+    // The values of the first `count` indicators.
+    QList<int> values(int count) const
+    {
+        QList<int> list;
+        for (int i = 0; i < count; ++i)
+            list << m_slider->GetIndicatorValue(i);
+        return list;
+    }
 
     std::unique_ptr<Slider> m_slider;
     QPixmap m_normal = filled(Qt::red);
@@ -322,8 +330,7 @@ void tst_QMultiLevelSlider::minimumGapWhileDragging()
     show(200);
     // h = 8, L = 183: the gap is round(9 / 183 * 10000) = 492.
     drag(0, 199);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 5000 - 492);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(values(2), QList<int>({ 5000 - 492, 5000 }));
 
     // Dragged down onto the first one, the second stops a gap above it.
     drag(1, 0);
@@ -423,8 +430,7 @@ void tst_QMultiLevelSlider::unconstrainedNeighbour()
     show(217);
     // Gap: round(9 / 200 * 10000) = 450. The unconstrained middle one is passed over.
     drag(0, 216);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 9000 - 450);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(values(2), QList<int>({ 9000 - 450, 5000 }));
 }
 
 void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
@@ -432,8 +438,7 @@ void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
     QVERIFY(init(0, 10000, indicators({ 6000, 2000 }), true, false));
     show(217);
     drag(1, 8 + 190);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 9500);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 6000);
+    QCOMPARE(values(2), QList<int>({ 6000, 9500 }));
 }
 
 void tst_QMultiLevelSlider::middleFollowsFirst()
@@ -442,16 +447,12 @@ void tst_QMultiLevelSlider::middleFollowsFirst()
     show(217);
     QVERIFY(m_slider->UpdateMiddleIndicatorRatio().succeeded());
     drag(0, 8 + 40);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 8000);
+    QCOMPARE(values(3), QList<int>({ 2000, 5000, 8000 }));
 
     // The ends keep a gap of one in middle mode; the middle one, pulled along to the same value,
     // then pushes the first one back by that gap.
     drag(0, 216);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 7998);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 7999);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 8000);
+    QCOMPARE(values(3), QList<int>({ 7998, 7999, 8000 }));
 }
 
 void tst_QMultiLevelSlider::middleFollowsLast()
@@ -460,9 +461,7 @@ void tst_QMultiLevelSlider::middleFollowsLast()
     show(217);
     // The default ratio is one half, whatever the initial values are.
     drag(2, 8 + 200);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 10000);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+    QCOMPARE(values(3), QList<int>({ 2000, 6000, 10000 }));
 }
 
 void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
@@ -482,9 +481,7 @@ void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
     // SetIndicatorValue with update recomputes the ratio from the values: (5000 - 2000) / 6000.
     QVERIFY(m_slider->SetIndicatorValue(1, 5000, true).succeeded());
     drag(2, 8 + 180);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 9000);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5500);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+    QCOMPARE(values(3), QList<int>({ 2000, 5500, 9000 }));
 }
 
 void tst_QMultiLevelSlider::stackedEndsPickFirst()
