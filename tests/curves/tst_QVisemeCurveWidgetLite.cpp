@@ -33,6 +33,12 @@ QPointF keyAt(int x, int y)
                    double(float(kBottom - y) / float(kBottom - kTop)));
 }
 
+// The report of a selected key's weight, in percent.
+QString selChanged(QPointF key)
+{
+    return QStringLiteral("SelKeyValueChanged %1").arg(float(key.y() * 100));
+}
+
 void moveMouse(QWidget *widget, QPoint pos, Qt::MouseButtons buttons = Qt::LeftButton)
 {
     QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
@@ -294,8 +300,7 @@ void tst_QVisemeCurveWidgetLite::pressAddsSortedSelectedKey()
     const QPointF added = keyAt(163, 126);
     QCOMPARE(slot(2).m_lstKeys, Keys({ QPointF(0, 0), added, QPointF(1, 0) }));
     QCOMPARE(slot(2).m_nSelectedKey, 1);
-    QCOMPARE(m_log,
-             QStringList(QStringLiteral("SelKeyValueChanged %1").arg(float(added.y() * 100))));
+    QCOMPARE(m_log, QStringList(selChanged(added)));
     QCOMPARE(m_widget->GetSelPtValue(), float(added.y() * 100));
     QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, pos);
     QCOMPARE(m_log.mid(1), kApplied);
@@ -369,10 +374,7 @@ void tst_QVisemeCurveWidgetLite::dragMovesKeyAndSortsOnRelease()
     moveMouse(m_widget, QPoint(250, 60));
     const QPointF moved = keyAt(250, 60);
     QCOMPARE(slot(1).m_lstKeys, Keys({ QPointF(0, 0), moved, QPointF(0.5, 0.25), QPointF(1, 0) }));
-    QCOMPARE(
-        m_log,
-        QStringList({ QStringLiteral("SelKeyValueChanged %1").arg(float(keyAt(200, 100).y() * 100)),
-                      QStringLiteral("SelKeyValueChanged %1").arg(float(moved.y() * 100)) }));
+    QCOMPARE(m_log, QStringList({ selChanged(keyAt(200, 100)), selChanged(moved) }));
 
     QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(250, 60));
     QCOMPARE(slot(1).m_lstKeys, Keys({ QPointF(0, 0), QPointF(0.5, 0.25), moved, QPointF(1, 0) }));
@@ -447,14 +449,10 @@ void tst_QVisemeCurveWidgetLite::rightPressDeletesKey()
     useSlot(0, QStringLiteral("AA"), keys);
     const QPoint pos = pixelOf(keys.at(index));
     QTest::mousePress(m_widget, Qt::RightButton, Qt::NoModifier, pos);
-    const float hitValue = float(keys.at(index).y() * 100);
-    keys.removeAt(index);
+    const QPointF hit = keys.takeAt(index);
     QCOMPARE(slot(0).m_lstKeys, keys);
     QCOMPARE(slot(0).m_nSelectedKey, selectedAfter);
-    QCOMPARE(m_log,
-             QStringList({ QStringLiteral("SelKeyValueChanged %1").arg(hitValue),
-                           QStringLiteral("SelKeyValueChanged %1")
-                               .arg(float(keys.at(selectedAfter).y() * 100)) }));
+    QCOMPARE(m_log, QStringList({ selChanged(hit), selChanged(keys.at(selectedAfter)) }));
     // The release that follows still reports the slot.
     QTest::mouseRelease(m_widget, Qt::RightButton, Qt::NoModifier, pos);
     QCOMPARE(m_log.mid(2), kApplied);
