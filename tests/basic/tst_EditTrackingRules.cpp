@@ -1,4 +1,5 @@
 // The wheel and focus rules that all five edit-tracking controls share.
+#include "BasicTestSupport.h"
 #include "QComboBoxEx.h"
 #include "QDialEx.h"
 #include "QDoubleSpinBoxEx.h"
@@ -6,8 +7,6 @@
 #include "QSpinBoxEx.h"
 #include "VelaTest.h"
 
-#include <QLineEdit>
-#include <QVBoxLayout>
 #include <QtTest>
 
 #include <functional>
@@ -20,10 +19,8 @@ class tst_EditTrackingRules : public QObject
     Q_OBJECT
 
 private slots:
-    void wheelOnlyWhileFocused_data();
-    void wheelOnlyWhileFocused();
-    void focusPolicyFollowsFocus_data();
-    void focusPolicyFollowsFocus();
+    void wheelAndFocusPolicyFollowFocus_data();
+    void wheelAndFocusPolicyFollowFocus();
 };
 
 static int currentValue(QWidget *control)
@@ -67,59 +64,30 @@ static void addControls()
     });
 }
 
-void tst_EditTrackingRules::wheelOnlyWhileFocused_data()
+void tst_EditTrackingRules::wheelAndFocusPolicyFollowFocus_data()
 {
     addControls();
 }
 
-// Over an unfocused control the wheel belongs to the scroll area behind it.
-void tst_EditTrackingRules::wheelOnlyWhileFocused()
+// Over an unfocused control the wheel belongs to the scroll area behind it; a focused control
+// takes the wheel focus too and gives it back on leaving.
+void tst_EditTrackingRules::wheelAndFocusPolicyFollowFocus()
 {
     QFETCH(ControlFactory, create);
-    QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *other = new QLineEdit(&window);
-    QWidget *control = create(&window);
-    layout->addWidget(other);
-    layout->addWidget(control);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    other->setFocus();
-    QTRY_VERIFY(other->hasFocus());
+    BasicTest::FocusWindow window;
+    QWidget *control = window.add(create(&window));
+    QCOMPARE(control->focusPolicy(), Qt::StrongFocus);
+    QVERIFY(window.showWithFocusElsewhere());
 
     const int before = currentValue(control);
     QVERIFY(!VelaTest::wheel(control, 1));
     QCOMPARE(currentValue(control), before);
 
-    control->setFocus();
-    QTRY_VERIFY(control->hasFocus());
+    QVERIFY(window.focus(control));
+    QCOMPARE(control->focusPolicy(), Qt::WheelFocus);
     QVERIFY(VelaTest::wheel(control, -1));
     QVERIFY(currentValue(control) != before);
-}
-
-void tst_EditTrackingRules::focusPolicyFollowsFocus_data()
-{
-    addControls();
-}
-
-void tst_EditTrackingRules::focusPolicyFollowsFocus()
-{
-    QFETCH(ControlFactory, create);
-    QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *other = new QLineEdit(&window);
-    QWidget *control = create(&window);
-    layout->addWidget(other);
-    layout->addWidget(control);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-
-    QCOMPARE(control->focusPolicy(), Qt::StrongFocus);
-    control->setFocus();
-    QTRY_VERIFY(control->hasFocus());
-    QCOMPARE(control->focusPolicy(), Qt::WheelFocus);
-    other->setFocus();
-    QTRY_VERIFY(other->hasFocus());
+    QVERIFY(window.focus(window.other));
     QCOMPARE(control->focusPolicy(), Qt::StrongFocus);
 }
 

@@ -1,3 +1,4 @@
+#include "BasicTestSupport.h"
 #include "QClickableLabel.h"
 #include "VelaTest.h"
 
@@ -64,13 +65,8 @@ void tst_QClickableLabel::pressDoesNotSelectText()
     label.show();
     QVERIFY(QTest::qWaitForWindowExposed(&label));
 
-    const QPoint from(2, label.height() / 2);
-    const QPoint to(label.width() - 2, label.height() / 2);
-    QTest::mousePress(&label, Qt::LeftButton, Qt::NoModifier, from);
-    QMouseEvent move(QEvent::MouseMove, to, label.mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(&label, &move);
-    QTest::mouseRelease(&label, Qt::LeftButton, Qt::NoModifier, to);
+    BasicTest::drag(&label, QPoint(2, label.height() / 2),
+                    QPoint(label.width() - 2, label.height() / 2));
     QVERIFY(!label.hasSelectedText());
 }
 

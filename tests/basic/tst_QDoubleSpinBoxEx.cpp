@@ -1,9 +1,8 @@
+#include "BasicTestSupport.h"
 #include "QDoubleSpinBoxEx.h"
 #include "QSpinBoxEx.h"
 #include "VelaTest.h"
 
-#include <QLineEdit>
-#include <QVBoxLayout>
 #include <QtTest>
 
 class tst_QDoubleSpinBoxEx : public QObject
@@ -23,9 +22,7 @@ private slots:
     void steppingFlagOutlivesFocus();
 
 private:
-    void focusSpin();
-
-    QWidget *m_window = nullptr;
+    BasicTest::FocusWindow *m_window = nullptr;
     QDoubleSpinBoxEx *m_spin = nullptr;
     QLineEdit *m_other = nullptr;
     QStringList m_records;
@@ -33,19 +30,13 @@ private:
 
 void tst_QDoubleSpinBoxEx::init()
 {
-    m_window = new QWidget;
-    auto *layout = new QVBoxLayout(m_window);
-    m_other = new QLineEdit(m_window);
-    m_spin = new QDoubleSpinBoxEx(m_window);
-    layout->addWidget(m_other);
-    layout->addWidget(m_spin);
+    m_window = new BasicTest::FocusWindow;
+    m_other = m_window->other;
+    m_spin = m_window->add(new QDoubleSpinBoxEx);
     m_records.clear();
     connect(m_spin, &QDoubleSpinBoxEx::RecordEditingValue, this,
             [this] { m_records << QString::number(m_spin->value()); });
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
+    QVERIFY(m_window->showWithFocusElsewhere());
 }
 
 void tst_QDoubleSpinBoxEx::cleanup()
@@ -53,17 +44,10 @@ void tst_QDoubleSpinBoxEx::cleanup()
     delete m_window;
 }
 
-void tst_QDoubleSpinBoxEx::focusSpin()
-{
-    m_spin->setFocus();
-    QTRY_VERIFY(m_spin->hasFocus());
-}
-
 void tst_QDoubleSpinBoxEx::hasNoStartSignal()
 {
     QCOMPARE(m_spin->metaObject()->indexOfSignal("EditingValueStarted()"), -1);
     QVERIFY(m_spin->metaObject()->indexOfSignal("RecordEditingValue()") >= 0);
-    QCOMPARE(m_spin->focusPolicy(), Qt::StrongFocus);
     QVERIFY(!m_spin->keyboardTracking());
 }
 
@@ -88,11 +72,10 @@ void tst_QDoubleSpinBoxEx::editingRangeWhileFocused()
     QFETCH(double, editingMaximum);
     m_spin->setDecimals(decimals);
     m_spin->setRange(minimum, maximum);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QCOMPARE(m_spin->maximum(), editingMaximum);
     QCOMPARE(m_spin->minimum(), -editingMaximum);
-    m_other->setFocus();
-    QTRY_VERIFY(!m_spin->hasFocus());
+    QVERIFY(BasicTest::FocusWindow::focus(m_other));
     QCOMPARE(m_spin->minimum(), minimum);
     QCOMPARE(m_spin->maximum(), maximum);
     QVERIFY(m_records.isEmpty());
@@ -119,7 +102,7 @@ void tst_QDoubleSpinBoxEx::typedNumberSettlesOnEnter()
     m_spin->setRange(0, 10);
     m_spin->setWrapping(wrapping);
     m_spin->setValue(5);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     m_spin->selectAll();
     QTest::keyClicks(m_spin, typed);
     QTest::keyClick(m_spin, Qt::Key_Return);
@@ -134,7 +117,7 @@ void tst_QDoubleSpinBoxEx::steppingUsesTheRoundedStep()
     m_spin->setRange(0, 1);
     m_spin->setSingleStep(0.1);
     m_spin->setValue(0.29);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QTest::keyClick(m_spin, Qt::Key_Up);
     QCOMPARE(m_spin->value(), 0.39);
 }
@@ -144,7 +127,7 @@ void tst_QDoubleSpinBoxEx::steppingStopsAtTheRealEnds()
     m_spin->setRange(0, 1);
     m_spin->setSingleStep(0.1);
     m_spin->setValue(0.95);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QVERIFY(VelaTest::wheel(m_spin, 1));
     QCOMPARE(m_spin->value(), 1.0);
     QVERIFY(VelaTest::wheel(m_spin, 1));
@@ -158,17 +141,14 @@ void tst_QDoubleSpinBoxEx::steppingStopsAtTheRealEnds()
 // release records again.
 void tst_QDoubleSpinBoxEx::steppingFlagOutlivesFocus()
 {
-    auto *intSpin = new QSpinBoxEx(m_window);
-    m_window->layout()->addWidget(intSpin);
+    auto *intSpin = m_window->add(new QSpinBoxEx);
     QSignalSpy intRecords(intSpin, &QSpinBoxEx::RecordEditingValue);
 
     for (QAbstractSpinBox *spin :
          { static_cast<QAbstractSpinBox *>(m_spin), static_cast<QAbstractSpinBox *>(intSpin) }) {
-        spin->setFocus();
-        QTRY_VERIFY(spin->hasFocus());
+        QVERIFY(m_window->focus(spin));
         QTest::keyClick(spin, Qt::Key_Up);
-        m_other->setFocus();
-        QTRY_VERIFY(m_other->hasFocus());
+        QVERIFY(m_window->focus(m_other));
     }
     QCOMPARE(m_records.size(), 1);
     QCOMPARE(intRecords.count(), 1);

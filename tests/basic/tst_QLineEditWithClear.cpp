@@ -25,6 +25,14 @@ private:
     {
         return edit.findChild<QToolButton *>(QStringLiteral("qtClearButton"));
     }
+    // Gives the edit the test cross, shows it at `size` and waits for it.
+    bool showWithCross(QLineEditWithClear &edit, const QSize &size)
+    {
+        edit.SetToolButtonCrossPixmap(m_crossPath);
+        edit.resize(size);
+        edit.show();
+        return QTest::qWaitForWindowExposed(&edit);
+    }
 
     QTemporaryDir m_dir;
     QString m_crossPath;
@@ -66,10 +74,7 @@ void tst_QLineEditWithClear::construction()
 void tst_QLineEditWithClear::typingShowsButton()
 {
     QLineEditWithClear edit;
-    edit.SetToolButtonCrossPixmap(m_crossPath);
-    edit.resize(200, 30);
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    QVERIFY(showWithCross(edit, QSize(200, 30)));
     QToolButton *button = clearButton(edit);
     QVERIFY(!button->isVisible());
 
@@ -90,10 +95,7 @@ void tst_QLineEditWithClear::typingShowsButton()
 void tst_QLineEditWithClear::clearButtonClearsThenSignals()
 {
     QLineEditWithClear edit;
-    edit.SetToolButtonCrossPixmap(m_crossPath);
-    edit.resize(200, 30);
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    QVERIFY(showWithCross(edit, QSize(200, 30)));
     QTest::keyClicks(&edit, QStringLiteral("mouth"));
 
     QStringList events;
@@ -131,10 +133,7 @@ void tst_QLineEditWithClear::buttonPlacement()
 void tst_QLineEditWithClear::textStaysClearOfButton()
 {
     QLineEditWithClear edit;
-    edit.SetToolButtonCrossPixmap(m_crossPath);
-    edit.resize(120, 30);
-    edit.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&edit));
+    QVERIFY(showWithCross(edit, QSize(120, 30)));
     QTest::keyClicks(&edit, QStringLiteral("a rather long name for a facial key"));
     QTest::keyClick(&edit, Qt::Key_End);
     edit.repaint(); // scrolls the text to the cursor

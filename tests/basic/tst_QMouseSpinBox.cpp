@@ -1,7 +1,7 @@
+#include "BasicTestSupport.h"
 #include "QMouseSpinBox.h"
 #include "VelaTest.h"
 
-#include <QLineEdit>
 #include <QtTest>
 
 class tst_QMouseSpinBox : public QObject
@@ -22,9 +22,7 @@ private:
     static QPoint textPoint(const QMouseSpinBox &box) { return QPoint(10, box.height() / 2); }
     static void move(QWidget *widget, const QPoint &pos, Qt::MouseButtons buttons)
     {
-        QMouseEvent event(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
-                          Qt::NoModifier);
-        QApplication::sendEvent(widget, &event);
+        BasicTest::moveHeld(widget, pos, buttons);
     }
 };
 

@@ -1,9 +1,8 @@
+#include "BasicTestSupport.h"
 #include "QSpinBoxEx.h"
 #include "VelaTest.h"
 
-#include <QLineEdit>
 #include <QStyleOptionSpinBox>
-#include <QVBoxLayout>
 #include <QtTest>
 
 #include <climits>
@@ -43,10 +42,9 @@ private slots:
     void noContextMenu();
 
 private:
-    void focusSpin();
     void typeAndPress(const QString &text, Qt::Key key = Qt::Key_Return);
 
-    QWidget *m_window = nullptr;
+    BasicTest::FocusWindow *m_window = nullptr;
     ClickableSpinBox *m_spin = nullptr;
     QLineEdit *m_other = nullptr;
     QStringList m_events;
@@ -54,31 +52,19 @@ private:
 
 void tst_QSpinBoxEx::init()
 {
-    m_window = new QWidget;
-    auto *layout = new QVBoxLayout(m_window);
-    m_other = new QLineEdit(m_window);
-    m_spin = new ClickableSpinBox(m_window);
-    layout->addWidget(m_other);
-    layout->addWidget(m_spin);
+    m_window = new BasicTest::FocusWindow;
+    m_other = m_window->other;
+    m_spin = m_window->add(new ClickableSpinBox);
     m_events.clear();
     connect(m_spin, &QSpinBoxEx::EditingValueStarted, this, [this] { m_events << "started"; });
     connect(m_spin, &QSpinBoxEx::RecordEditingValue, this,
             [this] { m_events << QStringLiteral("record %1").arg(m_spin->value()); });
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
+    QVERIFY(m_window->showWithFocusElsewhere());
 }
 
 void tst_QSpinBoxEx::cleanup()
 {
     delete m_window;
-}
-
-void tst_QSpinBoxEx::focusSpin()
-{
-    m_spin->setFocus();
-    QTRY_VERIFY(m_spin->hasFocus());
 }
 
 void tst_QSpinBoxEx::typeAndPress(const QString &text, Qt::Key key)
@@ -110,11 +96,10 @@ void tst_QSpinBoxEx::editingRangeWhileFocused()
     QFETCH(int, maximum);
     QFETCH(int, editingMaximum);
     m_spin->setRange(minimum, maximum);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QCOMPARE(m_spin->maximum(), editingMaximum);
     QCOMPARE(m_spin->minimum(), -editingMaximum);
-    m_other->setFocus();
-    QTRY_VERIFY(!m_spin->hasFocus());
+    QVERIFY(BasicTest::FocusWindow::focus(m_other));
     QCOMPARE(m_spin->minimum(), minimum);
     QCOMPARE(m_spin->maximum(), maximum);
     QVERIFY(m_events.isEmpty());
@@ -143,7 +128,7 @@ void tst_QSpinBoxEx::typedNumberSettlesOnEnter()
     m_spin->setRange(0, maximum);
     m_spin->setWrapping(wrapping);
     m_spin->setValue(5);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
 
     typeAndPress(typed, Qt::Key_Enter);
     QCOMPARE(m_spin->value(), expected);
@@ -156,12 +141,11 @@ void tst_QSpinBoxEx::typedNumberSettlesOnEnter()
 void tst_QSpinBoxEx::typedNumberSettlesOnFocusOut()
 {
     m_spin->setRange(0, 150);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     m_spin->selectAll();
     QTest::keyClicks(m_spin, "999");
     QCOMPARE(m_spin->text(), QStringLiteral("999"));
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
+    QVERIFY(BasicTest::FocusWindow::focus(m_other));
     QCOMPARE(m_spin->value(), 150);
     QCOMPARE(m_spin->text(), QStringLiteral("150"));
     QCOMPARE(m_events, QStringList({ "started", "record 150" }));
@@ -171,7 +155,7 @@ void tst_QSpinBoxEx::enterInsideRangeCommitsAtOnce()
 {
     m_spin->setRange(0, 150);
     QSignalSpy valueSpy(m_spin, qOverload<int>(&QSpinBox::valueChanged));
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     m_spin->selectAll();
     QTest::keyClicks(m_spin, "42");
     QVERIFY(valueSpy.isEmpty()); // no keyboard tracking
@@ -188,7 +172,7 @@ void tst_QSpinBoxEx::enterWithUnchangedTextDoesNothing()
 {
     m_spin->setRange(0, 150);
     m_spin->setValue(7);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QTest::keyPress(m_spin, Qt::Key_Return);
     QCOMPARE(m_events, QStringList());
     QVERIFY(m_spin->hasFocus());
@@ -204,18 +188,17 @@ void tst_QSpinBoxEx::steppingStaysInRealRange()
     m_spin->setRange(0, 10);
     m_spin->setSingleStep(4);
     m_spin->setValue(8);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QTest::keyClick(m_spin, Qt::Key_Up);
     QCOMPARE(m_spin->value(), 10); // not 12, although the editing range allows it
     QTest::keyClick(m_spin, Qt::Key_Down);
     QCOMPARE(m_spin->value(), 6);
     QCOMPARE(m_events, QStringList({ "started" })); // one start for the whole stepping edit
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
+    QVERIFY(BasicTest::FocusWindow::focus(m_other));
     QCOMPARE(m_events, QStringList({ "started", "record 6" }));
 
     // A new edit starts a new session.
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QVERIFY(VelaTest::wheel(m_spin, 1));
     QCOMPARE(m_spin->value(), 10);
     QCOMPARE(m_events.count("started"), 2);
@@ -226,7 +209,7 @@ void tst_QSpinBoxEx::steppingWrapsAtTheEnds()
     m_spin->setRange(0, 10);
     m_spin->setWrapping(true);
     m_spin->setValue(10);
-    focusSpin();
+    QVERIFY(m_window->focus(m_spin));
     QTest::keyClick(m_spin, Qt::Key_Up);
     QCOMPARE(m_spin->value(), 0);
     QTest::keyClick(m_spin, Qt::Key_Down);

@@ -56,6 +56,30 @@ protected:
     }
 };
 
+// A shown 100 x 100 parent holding one 60 x 60 checkable button named "jaw" at (10, 10), showing
+// a 40 x 40 ellipse.
+template<class Parent = QWidget, class Button = QTransToolBtn>
+struct IconButtonWindow
+{
+    Parent parent;
+    Button button { &parent };
+
+    IconButtonWindow()
+    {
+        parent.resize(100, 100);
+        button.setObjectName(QStringLiteral("jaw"));
+        button.setCheckable(true);
+        button.setGeometry(10, 10, 60, 60);
+        button.setIconSize(QSize(40, 40));
+        button.setIcon(QIcon(ellipsePixmap(QSize(40, 40), Qt::red)));
+    }
+    bool show()
+    {
+        parent.show();
+        return QTest::qWaitForWindowExposed(&parent);
+    }
+};
+
 const QColor kStateColors[6] = { Qt::red, Qt::green, Qt::blue, Qt::cyan, Qt::magenta, Qt::yellow };
 
 } // namespace
@@ -83,24 +107,11 @@ private slots:
     void iconPainting_data();
     void iconPainting();
     void sharedAndOwnedPixmaps();
-
-private:
-    void setUpIconButton(QTransToolBtn &button);
 };
 
 void tst_QTransToolBtn::init()
 {
     QCursor::setPos(-1000, -1000);
-}
-
-// A 60 x 60 checkable button showing a 40 x 40 ellipse.
-void tst_QTransToolBtn::setUpIconButton(QTransToolBtn &button)
-{
-    button.setObjectName(QStringLiteral("jaw"));
-    button.setCheckable(true);
-    button.setGeometry(10, 10, 60, 60);
-    button.setIconSize(QSize(40, 40));
-    button.setIcon(QIcon(ellipsePixmap(QSize(40, 40), Qt::red)));
 }
 
 void tst_QTransToolBtn::defaults()
@@ -127,9 +138,8 @@ void tst_QTransToolBtn::transparentArea()
 {
     QFETCH(QPoint, point);
     QFETCH(bool, transparent);
-    QWidget parent;
-    ProbeButton button(&parent);
-    setUpIconButton(button);
+    IconButtonWindow<QWidget, ProbeButton> window;
+    ProbeButton &button = window.button;
     QCOMPARE(button.IsInTransArea(point), transparent);
     QCOMPARE(button.hitButton(point), !transparent);
 }
@@ -187,14 +197,11 @@ void tst_QTransToolBtn::forwardedClicks()
     QFETCH(bool, enabled);
     QFETCH(bool, accepted);
 
-    QWidget parent;
-    parent.resize(100, 100);
-    QTransToolBtn button(&parent);
-    setUpIconButton(button);
+    IconButtonWindow<> window;
+    QTransToolBtn &button = window.button;
     button.setVisible(visible);
     button.setEnabled(enabled);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    QVERIFY(window.show());
     QSignalSpy toggled(&button, &QAbstractButton::toggled);
 
     QCOMPARE(button.IsMouseClickAction(point), accepted);
@@ -210,12 +217,9 @@ void tst_QTransToolBtn::forwardedClicks()
 
 void tst_QTransToolBtn::rightClickDoesNotToggle()
 {
-    QWidget parent;
-    parent.resize(100, 100);
-    QTransToolBtn button(&parent);
-    setUpIconButton(button);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    IconButtonWindow<> window;
+    QTransToolBtn &button = window.button;
+    QVERIFY(window.show());
 
     QCOMPARE(button.DoMouseRightClickAction(button.mapToGlobal(QPoint(20, 20))),
              QStringLiteral("jaw"));
@@ -249,12 +253,9 @@ void tst_QTransToolBtn::setCurrState()
 
 void tst_QTransToolBtn::mouseEventsGoToParent()
 {
-    EventSink parent;
-    parent.resize(100, 100);
-    QTransToolBtn button(&parent);
-    setUpIconButton(button);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    IconButtonWindow<EventSink> window;
+    QTransToolBtn &button = window.button;
+    QVERIFY(window.show());
     QSignalSpy clicked(&button, &QAbstractButton::clicked);
     QSignalSpy doubleClicked(&button, &QTransToolBtn::doubleClicked);
 
@@ -266,7 +267,7 @@ void tst_QTransToolBtn::mouseEventsGoToParent()
                      Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&button, &move);
 
-    QCOMPARE(parent.received,
+    QCOMPARE(window.parent.received,
              QList<QEvent::Type>({ QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
                                    QEvent::MouseButtonDblClick, QEvent::MouseMove }));
     QVERIFY(!button.isChecked());
@@ -276,10 +277,8 @@ void tst_QTransToolBtn::mouseEventsGoToParent()
 
 void tst_QTransToolBtn::disabledButtonKeepsEvents()
 {
-    EventSink parent;
-    parent.resize(100, 100);
-    QTransToolBtn button(&parent);
-    setUpIconButton(button);
+    IconButtonWindow<EventSink> window;
+    QTransToolBtn &button = window.button;
     button.setEnabled(false);
     QSignalSpy clicked(&button, &QAbstractButton::clicked);
     QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
@@ -377,10 +376,8 @@ void tst_QTransToolBtn::iconPainting()
     QFETCH(bool, enabled);
     QFETCH(QColor, expected);
 
-    QWidget parent;
-    parent.resize(100, 100);
-    QTransToolBtn button(&parent);
-    setUpIconButton(button);
+    IconButtonWindow<> window;
+    QTransToolBtn &button = window.button;
     QIcon icon;
     const QSize size(40, 40);
     icon.addPixmap(ellipsePixmap(size, Qt::red), QIcon::Normal, QIcon::Off);
@@ -392,18 +389,17 @@ void tst_QTransToolBtn::iconPainting()
     button.setIcon(icon);
     button.setChecked(checked);
     button.setEnabled(enabled);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
+    QVERIFY(window.show());
 
     // A point in the button but in the image's transparent corner does not count as hovering.
     QCursor::setPos(button.mapToGlobal(overOpaque ? QPoint(20, 20) : QPoint(2, 2)));
     const QImage shot = button.grab().toImage();
     QCOMPARE(shot.pixelColor(20, 20), expected);
     // No frame or background of its own: the parent's background shows around the image.
-    const QColor window = parent.palette().color(QPalette::Window);
-    QCOMPARE(shot.pixelColor(1, 1), window);
-    QCOMPARE(shot.pixelColor(55, 55), window);
-    QCOMPARE(shot.pixelColor(0, 59), window);
+    const QColor background = window.parent.palette().color(QPalette::Window);
+    QCOMPARE(shot.pixelColor(1, 1), background);
+    QCOMPARE(shot.pixelColor(55, 55), background);
+    QCOMPARE(shot.pixelColor(0, 59), background);
 }
 
 void tst_QTransToolBtn::sharedAndOwnedPixmaps()

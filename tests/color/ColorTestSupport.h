@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QWidget>
 
 #include <functional>
@@ -34,21 +35,31 @@ inline void onModal(const std::function<void(QDialog *)> &action, bool *ran, int
     });
 }
 
-// One colour session as a user has it: a click on the button opens its modal dialog, `action`
+// One colour session as a user has it: a click on the button opens `dialog` modally, `action`
 // works in it, and the dialog is closed when the click returns.
-inline void runButtonSession(QColorButton *button,
+inline void runButtonSession(QWidget *button, QColorDialog *dialog,
                              const std::function<void(QColorDialog *)> &action)
 {
     bool ran = false;
     onModal(
-        [&](QDialog *dialog) {
-            QCOMPARE(dialog, static_cast<QDialog *>(button->ColorDialogUi()));
-            action(button->ColorDialogUi());
+        [&](QDialog *modal) {
+            QCOMPARE(modal, static_cast<QDialog *>(dialog));
+            action(dialog);
         },
         &ran);
     QTest::mouseClick(button, Qt::LeftButton);
     QVERIFY(ran);
-    QVERIFY(!button->ColorDialogUi()->isVisible());
+    QVERIFY(!dialog->isVisible());
+}
+
+// The colour of the button's icon at `corner` of it; invalid when the icon has another size.
+inline QColor iconColor(const QToolButton &button, Qt::Corner corner)
+{
+    const QImage image = button.icon().pixmap(button.iconSize()).toImage();
+    if (image.size() != button.iconSize())
+        return QColor();
+    return corner == Qt::TopLeftCorner ? image.pixelColor(0, 0)
+                                       : image.pixelColor(image.width() - 1, image.height() - 1);
 }
 
 // The first descendant of `parent` whose class is exactly `className` (Qt's private classes have

@@ -15,10 +15,7 @@ namespace {
 
 QColor iconColor(const QToolButton &button)
 {
-    const QImage image = button.icon().pixmap(button.iconSize()).toImage();
-    if (image.size() != button.iconSize())
-        return QColor();
-    return image.pixelColor(0, 0);
+    return ColorTest::iconColor(button, Qt::TopLeftCorner);
 }
 
 QColor firstColor(const QSignalSpy &spy)
@@ -92,7 +89,6 @@ void tst_QColorButton2::defaults()
     QVERIFY(!button.GetColor().isValid());
     QCOMPARE(button.iconSize(), QSize(32, 32));
     QCOMPARE(iconColor(button), QColor(Qt::black));
-    QVERIFY(!button.GetColorDialog()->IsModeless());
     QCOMPARE(m_dialog->parent(), m_window.get());
 
     QVERIFY(m_button->setProperty("Color", QColor(Qt::cyan)));
@@ -258,16 +254,10 @@ void tst_QColorButton2::modalSessionRejected()
     QSignalSpy clicked(m_button, &QColorButton2::Clicked);
     QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
     QSignalSpy finished(m_button, &QColorButton2::EditFinished);
-    bool ran = false;
-    ColorTest::onModal(
-        [&](QDialog *dialog) {
-            QCOMPARE(dialog, static_cast<QDialog *>(m_dialog));
-            m_dialog->setCurrentColor(QColor(Qt::blue));
-            dialog->reject();
-        },
-        &ran);
-    QTest::mouseClick(m_button, Qt::LeftButton);
-    QVERIFY(ran);
+    ColorTest::runButtonSession(m_button, m_dialog, [](QColorDialog *dialog) {
+        dialog->setCurrentColor(QColor(Qt::blue));
+        dialog->reject();
+    });
     QCOMPARE(clicked.count(), 0);
     // Closing the dialog reverts nothing: the change was reported as it happened.
     QCOMPARE(changed.count(), 0);
@@ -281,16 +271,11 @@ void tst_QColorButton2::modalSessionAccepted()
     m_button->SetColor(QColor(Qt::red));
     QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
     QSignalSpy changed2(m_button, &QColorButton2::ColorChanged2);
-    bool ran = false;
-    ColorTest::onModal(
-        [&](QDialog *dialog) {
-            QCOMPARE(m_dialog->currentColor(), QColor(Qt::red));
-            m_dialog->setCurrentColor(QColor(Qt::green));
-            dialog->accept();
-        },
-        &ran);
-    QTest::mouseClick(m_button, Qt::LeftButton);
-    QVERIFY(ran);
+    ColorTest::runButtonSession(m_button, m_dialog, [](QColorDialog *dialog) {
+        QCOMPARE(dialog->currentColor(), QColor(Qt::red));
+        dialog->setCurrentColor(QColor(Qt::green));
+        dialog->accept();
+    });
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed2.count(), 1);
     QCOMPARE(firstColor(changed2), QColor(Qt::green));

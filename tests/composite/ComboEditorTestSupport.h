@@ -5,16 +5,22 @@
 // position as a user does, double-clicking, typing into a spin box, and a folder holding the
 // arrow images that the editors look for in the current folder.
 
+#include "QSliderEx.h"
+
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMetaProperty>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QTemporaryDir>
+#include <QVBoxLayout>
 #include <QtTest>
+
+#include <memory>
 
 namespace ComboEditorTest {
 
@@ -65,6 +71,14 @@ inline int dragDistanceTo(const QSlider *slider, int target)
     return -1;
 }
 
+// A mouse move with `buttons` held, delivered straight to the widget.
+inline void moveHeld(QWidget *widget, const QPoint &pos, Qt::MouseButtons buttons = Qt::LeftButton)
+{
+    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
+                     Qt::NoModifier);
+    QApplication::sendEvent(widget, &move);
+}
+
 // Presses the left button on the handle, moves it in a few steps and releases it.
 inline void dragHandle(QSlider *slider, int distance)
 {
@@ -74,9 +88,7 @@ inline void dragHandle(QSlider *slider, int distance)
     QPoint to = from;
     for (int i = 1; i <= steps; ++i) {
         to = from + QPoint(distance * i / steps, 0);
-        QMouseEvent move(QEvent::MouseMove, to, slider->mapToGlobal(to), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(slider, &move);
+        moveHeld(slider, to);
     }
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
 }
@@ -89,11 +101,6 @@ inline void dragHandle(QSlider *slider, int distance)
         ComboEditorTest::dragHandle((slider), comboDistance);                                      \
         QCOMPARE((slider)->value(), (target));                                                     \
     } while (false)
-
-inline void doubleClick(QWidget *widget, Qt::MouseButton button, QPoint pos = QPoint())
-{
-    QTest::mouseDClick(widget, button, Qt::NoModifier, pos);
-}
 
 // Focuses the spin box, replaces its text as a user does and presses Enter.
 #define COMBO_TYPE_INTO(spinBox, text)                                                             \
@@ -133,6 +140,116 @@ private:
     QTemporaryDir m_dir;
     QString m_previous;
 };
+
+// The names of the properties a class declares itself, in declaration order.
+inline QStringList propertyNames(const QMetaObject *meta)
+{
+    QStringList names;
+    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
+        names << QLatin1String(meta->property(i).name());
+    return names;
+}
+
+// A shown, active window holding a line edit that has the focus and, below it, one editor whose
+// ValueChanged and EditFinished signals are logged in the order the host receives them.
+template<class Editor, class Spin>
+struct Harness
+{
+    QStringList log; // first: the window's teardown may still report an edit
+    std::unique_ptr<QWidget> window { new QWidget };
+    QLineEdit *other = new QLineEdit(window.get());
+    Editor *editor = new Editor(window.get());
+    QSliderEx *slider = editor->UI()->qtHorizontalSlider;
+    Spin *spin = editor->template findChild<Spin *>();
+
+    explicit Harness(int width)
+    {
+        auto *layout = new QVBoxLayout(window.get());
+        layout->addWidget(other);
+        layout->addWidget(editor);
+        editor->setText(QStringLiteral("Strength"));
+        editor->setMinimumWidth(width);
+        QObject::connect(editor, &Editor::ValueChanged, editor, [this](auto value) {
+            log << QStringLiteral("ValueChanged(%1)").arg(value);
+        });
+        QObject::connect(editor, &Editor::EditFinished, editor,
+                         [this] { log << QStringLiteral("EditFinished"); });
+    }
+    // Shows the window and leaves the focus on the line edit; false when that failed.
+    bool show()
+    {
+        window->show();
+        if (!QTest::qWaitForWindowActive(window.get()))
+            return false;
+        other->setFocus();
+        const bool focused = QTest::qWaitFor([this] { return other->hasFocus(); });
+        log.clear();
+        return focused;
+    }
+    // SetValue reports the new value once, and neither child reports a change of its own.
+    template<class Value>
+    void checkSetValueIsSilent(Value value, int position)
+    {
+        QSignalSpy spinSpy(spin, QOverload<Value>::of(&Spin::valueChanged));
+        QSignalSpy sliderSpy(slider, &QSlider::valueChanged);
+        editor->SetValue(value);
+        QCOMPARE(log, QStringList { QStringLiteral("ValueChanged(%1)").arg(value) });
+        QCOMPARE(spinSpy.count(), 0);
+        QCOMPARE(sliderSpy.count(), 0);
+        QCOMPARE(editor->Value(), value);
+        QCOMPARE(slider->value(), position);
+    }
+    // Runs the current row of the double-click table (addDoubleClickRows) on the editor holding
+    // `start` with the default `reset`, which the slider shows at `resetPosition`.
+    template<class Value>
+    void doubleClickReset(Value start, Value reset, int resetPosition)
+    {
+        QFETCH(bool, onLabel);
+        QFETCH(int, button);
+        QFETCH(bool, enabled);
+        QFETCH(bool, resetFlag);
+        QFETCH(bool, resets);
+        editor->SetDefaultValue(reset);
+        editor->SetResetOnDoubleClick(resetFlag);
+        editor->SetValue(start);
+        editor->setEnabled(enabled);
+        log.clear();
+
+        QWidget *target = onLabel ? static_cast<QWidget *>(editor->UI()->qtLabel) : slider;
+        QTest::mouseDClick(target, Qt::MouseButton(button), Qt::NoModifier,
+                           onLabel ? QPoint() : handleRect(slider).center());
+        QVERIFY(!slider->isSliderDown());
+        if (!resets) {
+            QVERIFY(log.filter(QStringLiteral("ValueChanged")).isEmpty());
+            QVERIFY(!log.contains(QStringLiteral("EditFinished")));
+            QCOMPARE(editor->Value(), start);
+            return;
+        }
+        QCOMPARE(log,
+                 (QStringList { QStringLiteral("ValueChanged(%1)").arg(reset),
+                                QStringLiteral("EditFinished") }));
+        QCOMPARE(editor->Value(), reset);
+        QCOMPARE(slider->value(), resetPosition);
+        QCOMPARE(slider->objectName(), QStringLiteral("UneditedWidget"));
+    }
+};
+
+// Where a double-click lands, with which button, on an enabled editor or not, with the reset
+// switched on or not, and whether the value returns to its default.
+inline void addDoubleClickRows()
+{
+    QTest::addColumn<bool>("onLabel");
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("resetFlag");
+    QTest::addColumn<bool>("resets");
+    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true << true;
+    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true << true;
+    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << true << false;
+    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << true << false;
+    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << true << false;
+    QTest::newRow("flag off") << true << int(Qt::LeftButton) << true << false << false;
+}
 
 } // namespace ComboEditorTest
 

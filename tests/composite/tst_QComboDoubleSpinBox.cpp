@@ -1,9 +1,8 @@
 #include "ComboEditorTestSupport.h"
 #include "QComboDoubleSpinBox.h"
+#include "QComboSpinBox.h"
 #include "VelaTest.h"
 
-#include <QLineEdit>
-#include <QVBoxLayout>
 #include <QtTest>
 
 using namespace ComboEditorTest;
@@ -26,47 +25,30 @@ private slots:
     void independentRange();
     void rangeKeepsChildrenTogether();
     void steps();
-    void decimalsDoNotRescale();
     void editedMarking();
     void doubleClickReset_data();
     void doubleClickReset();
 
 private:
-    QWidget *m_window = nullptr;
-    QLineEdit *m_other = nullptr;
+    std::unique_ptr<Harness<QComboDoubleSpinBox, QDoubleSpinBoxEx>> m_h;
     QComboDoubleSpinBox *m_editor = nullptr;
     QSliderEx *m_slider = nullptr;
     QDoubleSpinBoxEx *m_spin = nullptr;
-    QStringList m_log;
 };
 
 void tst_QComboDoubleSpinBox::init()
 {
-    m_window = new QWidget;
-    auto *layout = new QVBoxLayout(m_window);
-    m_other = new QLineEdit(m_window);
-    m_editor = new QComboDoubleSpinBox(m_window);
-    m_editor->setText(QStringLiteral("Roughness"));
     // Wide enough for every position of a 0 to 1000 slider to lie under some pixel.
-    m_editor->setMinimumWidth(1300);
-    layout->addWidget(m_other);
-    layout->addWidget(m_editor);
-    m_slider = m_editor->UI()->qtHorizontalSlider;
-    m_spin = m_editor->UI()->qtDoubleSpinBox;
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
-    m_log.clear();
-    connect(m_editor, &QComboDoubleSpinBox::ValueChanged, this,
-            [this](double value) { m_log << QStringLiteral("ValueChanged(%1)").arg(value); });
-    connect(m_editor, &QComboDoubleSpinBox::EditFinished, this,
-            [this] { m_log << QStringLiteral("EditFinished"); });
+    m_h.reset(new Harness<QComboDoubleSpinBox, QDoubleSpinBoxEx>(1300));
+    m_editor = m_h->editor;
+    m_slider = m_h->slider;
+    m_spin = m_h->spin;
+    QVERIFY(m_h->show());
 }
 
 void tst_QComboDoubleSpinBox::cleanup()
 {
-    delete m_window;
+    m_h.reset();
 }
 
 void tst_QComboDoubleSpinBox::initialState()
@@ -85,7 +67,6 @@ void tst_QComboDoubleSpinBox::initialState()
     QCOMPARE(editor.SingleStep(), 1.0);
     QCOMPARE(editor.PageStep(), 10.0);
     QCOMPARE(editor.DefaultValue(), 0.0);
-    QCOMPARE(slider->objectName(), QStringLiteral("qtHorizontalSlider"));
     QCOMPARE(slider->focusPolicy(), Qt::NoFocus);
     // The spin box's 99.99 lies beyond the slider's 99.00.
     QVERIFY(editor.UI()->qtLeftArrowLabel->isHidden());
@@ -110,63 +91,16 @@ void tst_QComboDoubleSpinBox::formNames()
 void tst_QComboDoubleSpinBox::propertyOrder()
 {
     const QMetaObject *meta = &QComboDoubleSpinBox::staticMetaObject;
-    QStringList names;
-    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
-        names << QLatin1String(meta->property(i).name());
-    const QStringList expected = {
-        "decimals",
-        "spacing",
-        "value",
-        "minimum",
-        "maximum",
-        "singleStep",
-        "pageStep",
-        "independentSpin",
-        "spinMinimum",
-        "spinMaximum",
-        "resetOnDoubleClick",
-        "defaultValue",
-        "labelVisible",
-        "labelName",
-        "text",
-        "textFormat",
-        "pixmap",
-        "scaledContents",
-        "wordWrap",
-        "labelOrientation",
-        "wrapping",
-        "frame",
-        "alignment",
-        "readOnly",
-        "buttonSymbols",
-        "specialValueText",
-        "accelerated",
-        "correctionMode",
-        "keyboardTracking",
-        "showGroupSeparator",
-        "tickPosition",
-        "tickInterval",
-        "tracking",
-        "orientation",
-        "invertedAppearance",
-        "invertedControls",
-        "sliderDown",
-    };
-    QCOMPARE(names, expected);
+    // The integer editor's list, after the number of decimals.
+    QCOMPARE(propertyNames(meta),
+             QStringList { "decimals" } + propertyNames(&QComboSpinBox::staticMetaObject));
     QCOMPARE(meta->property(meta->indexOfProperty("value")).type(), QVariant::Double);
     QCOMPARE(meta->property(meta->indexOfProperty("decimals")).type(), QVariant::Int);
 }
 
 void tst_QComboDoubleSpinBox::setValueEmitsOnceWithoutChildSignals()
 {
-    QSignalSpy spinSpy(m_spin, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
-    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
-    m_editor->SetValue(12.5);
-    QCOMPARE(m_log, QStringList { "ValueChanged(12.5)" });
-    QCOMPARE(spinSpy.count(), 0);
-    QCOMPARE(sliderSpy.count(), 0);
-    QCOMPARE(m_editor->Value(), 12.5);
-    QCOMPARE(m_slider->value(), 1250);
+    m_h->checkSetValueIsSilent(12.5, 1250);
 }
 
 void tst_QComboDoubleSpinBox::truncationTowardZero()
@@ -195,13 +129,13 @@ void tst_QComboDoubleSpinBox::dragWithThreeDecimals()
     QCOMPARE(m_slider->minimum(), 0);
     QCOMPARE(m_slider->maximum(), 1000);
     QVERIFY(m_editor->UI()->qtRightArrowLabel->isHidden());
-    m_log.clear();
+    m_h->log.clear();
 
     COMBO_DRAG_SLIDER_TO(m_slider, 250);
     QCOMPARE(m_editor->Value(), 0.25);
-    QCOMPARE(m_log.at(m_log.size() - 2), QStringLiteral("ValueChanged(0.25)"));
-    QCOMPARE(m_log.last(), QStringLiteral("EditFinished"));
-    QCOMPARE(m_log.count(QStringLiteral("EditFinished")), 1);
+    QCOMPARE(m_h->log.at(m_h->log.size() - 2), QStringLiteral("ValueChanged(0.25)"));
+    QCOMPARE(m_h->log.last(), QStringLiteral("EditFinished"));
+    QCOMPARE(m_h->log.count(QStringLiteral("EditFinished")), 1);
     QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
 }
 
@@ -210,30 +144,30 @@ void tst_QComboDoubleSpinBox::typingAndEnter()
     COMBO_TYPE_INTO(m_spin, "12.5");
     QCOMPARE(m_editor->Value(), 12.5);
     QCOMPARE(m_slider->value(), 1250);
-    QCOMPARE(m_log, (QStringList { "ValueChanged(12.5)", "EditFinished" }));
+    QCOMPARE(m_h->log, (QStringList { "ValueChanged(12.5)", "EditFinished" }));
     QTRY_VERIFY(!m_spin->hasFocus());
 
     // Beyond the range, with as many digits as its maximum: clamped when the key is released.
     m_editor->SetMaximum(50.0);
-    m_log.clear();
+    m_h->log.clear();
     COMBO_TYPE_INTO(m_spin, "75");
     QCOMPARE(m_editor->Value(), 50.0);
     QCOMPARE(m_slider->value(), 5000);
-    QCOMPARE(m_log, (QStringList { "ValueChanged(50)", "EditFinished" }));
+    QCOMPARE(m_h->log, (QStringList { "ValueChanged(50)", "EditFinished" }));
 }
 
 void tst_QComboDoubleSpinBox::wheelOnlyWhenFocused()
 {
     QVERIFY(!VelaTest::wheel(m_slider, 2));
     QVERIFY(!VelaTest::wheel(m_spin, 2));
-    QVERIFY(m_log.isEmpty());
+    QVERIFY(m_h->log.isEmpty());
 
     m_spin->setFocus();
     QTRY_VERIFY(m_spin->hasFocus());
     QVERIFY(VelaTest::wheel(m_spin, 1));
     QCOMPARE(m_editor->Value(), 1.0);
     QCOMPARE(m_slider->value(), 100);
-    QCOMPARE(m_log, QStringList { "ValueChanged(1)" });
+    QCOMPARE(m_h->log, QStringList { "ValueChanged(1)" });
 }
 
 void tst_QComboDoubleSpinBox::independentRange()
@@ -261,7 +195,7 @@ void tst_QComboDoubleSpinBox::independentRange()
     COMBO_TYPE_INTO(m_spin, "35");
     QCOMPARE(m_editor->Value(), 35.0);
     QCOMPARE(m_slider->value(), 2000);
-    QVERIFY(m_log.contains(QStringLiteral("ValueChanged(35)")));
+    QVERIFY(m_h->log.contains(QStringLiteral("ValueChanged(35)")));
 }
 
 void tst_QComboDoubleSpinBox::rangeKeepsChildrenTogether()
@@ -270,7 +204,7 @@ void tst_QComboDoubleSpinBox::rangeKeepsChildrenTogether()
     m_editor->SetMaximum(20.0);
     QCOMPARE(m_editor->Value(), 20.0);
     QCOMPARE(m_slider->value(), 2000);
-    QCOMPARE(m_log.last(), QStringLiteral("ValueChanged(20)"));
+    QCOMPARE(m_h->log.last(), QStringLiteral("ValueChanged(20)"));
     QCOMPARE(m_editor->SpinMinimum(), 0.0);
     m_editor->SetMinimum(5.0);
     QCOMPARE(m_editor->Minimum(), 5.0);
@@ -286,13 +220,9 @@ void tst_QComboDoubleSpinBox::steps()
     m_editor->SetPageStep(2.5);
     QCOMPARE(m_slider->pageStep(), 250);
     QCOMPARE(m_editor->PageStep(), 2.5);
-}
 
-void tst_QComboDoubleSpinBox::decimalsDoNotRescale()
-{
+    // More decimals do not rescale the slider.
     m_editor->SetDecimals(3);
-    QCOMPARE(m_editor->Decimals(), 3);
-    QCOMPARE(m_editor->property("decimals").toInt(), 3);
     QCOMPARE(m_slider->maximum(), 9900);
     // New values use the new scale.
     m_editor->SetValue(1.5);
@@ -313,41 +243,12 @@ void tst_QComboDoubleSpinBox::editedMarking()
 
 void tst_QComboDoubleSpinBox::doubleClickReset_data()
 {
-    QTest::addColumn<bool>("onLabel");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("resets");
-    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true;
-    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true;
-    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << false;
-    QTest::newRow("disabled") << true << int(Qt::LeftButton) << false << false;
+    addDoubleClickRows();
 }
 
 void tst_QComboDoubleSpinBox::doubleClickReset()
 {
-    QFETCH(bool, onLabel);
-    QFETCH(int, button);
-    QFETCH(bool, enabled);
-    QFETCH(bool, resets);
-
-    m_editor->SetDefaultValue(2.5);
-    m_editor->SetResetOnDoubleClick(true);
-    m_editor->SetValue(40.0);
-    m_editor->setEnabled(enabled);
-    m_log.clear();
-
-    QWidget *target = onLabel ? static_cast<QWidget *>(m_editor->UI()->qtLabel) : m_slider;
-    doubleClick(target, Qt::MouseButton(button),
-                onLabel ? QPoint() : handleRect(m_slider).center());
-    if (resets) {
-        QCOMPARE(m_log, (QStringList { "ValueChanged(2.5)", "EditFinished" }));
-        QCOMPARE(m_editor->Value(), 2.5);
-        QCOMPARE(m_slider->value(), 250);
-        QVERIFY(!m_slider->isSliderDown());
-    } else {
-        QVERIFY(m_log.isEmpty());
-        QCOMPARE(m_editor->Value(), 40.0);
-    }
+    m_h->doubleClickReset(40.0, 2.5, 250);
 }
 
 VELA_TEST_CLASS(tst_QComboDoubleSpinBox)

@@ -2,8 +2,6 @@
 #include "QComboSpinBox.h"
 #include "VelaTest.h"
 
-#include <QLineEdit>
-#include <QVBoxLayout>
 #include <QtTest>
 
 using namespace ComboEditorTest;
@@ -25,7 +23,6 @@ private slots:
     void steppingByKeysAndWheel();
     void wheelNeverMovesSlider();
     void rangeSetters();
-    void rangeSettersAreSilent();
     void mappings();
     void editedMarking();
     void markingRepolishes();
@@ -37,50 +34,26 @@ private slots:
     void arrowImages();
 
 private:
-    void record();
-
-    QWidget *m_window = nullptr;
-    QLineEdit *m_other = nullptr;
+    std::unique_ptr<Harness<QComboSpinBox, QSpinBoxEx>> m_h;
     QComboSpinBox *m_editor = nullptr;
     QSliderEx *m_slider = nullptr;
     QSpinBoxEx *m_spin = nullptr;
-    QStringList m_log;
 };
 
 void tst_QComboSpinBox::init()
 {
-    m_window = new QWidget;
-    auto *layout = new QVBoxLayout(m_window);
-    m_other = new QLineEdit(m_window);
-    m_editor = new QComboSpinBox(m_window);
-    m_editor->setText(QStringLiteral("Strength"));
-    m_editor->setMinimumWidth(600);
-    layout->addWidget(m_other);
-    layout->addWidget(m_editor);
-    m_slider = m_editor->UI()->qtHorizontalSlider;
-    m_spin = m_editor->UI()->qtSpinBox;
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window));
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
-    m_log.clear();
-    record();
+    m_h.reset(new Harness<QComboSpinBox, QSpinBoxEx>(600));
+    m_editor = m_h->editor;
+    m_slider = m_h->slider;
+    m_spin = m_h->spin;
+    connect(m_editor, &QComboSpinBox::EditStarted, this,
+            [this] { m_h->log << QStringLiteral("EditStarted"); });
+    QVERIFY(m_h->show());
 }
 
 void tst_QComboSpinBox::cleanup()
 {
-    delete m_window;
-}
-
-// Logs the editor's signals in the order the host receives them.
-void tst_QComboSpinBox::record()
-{
-    connect(m_editor, &QComboSpinBox::ValueChanged, this,
-            [this](int value) { m_log << QStringLiteral("ValueChanged(%1)").arg(value); });
-    connect(m_editor, &QComboSpinBox::EditStarted, this,
-            [this] { m_log << QStringLiteral("EditStarted"); });
-    connect(m_editor, &QComboSpinBox::EditFinished, this,
-            [this] { m_log << QStringLiteral("EditFinished"); });
+    m_h.reset();
 }
 
 void tst_QComboSpinBox::initialState()
@@ -93,7 +66,6 @@ void tst_QComboSpinBox::initialState()
     QVERIFY(!editor.IndependentSpin());
     QVERIFY(!editor.ResetOnDoubleClick());
     QCOMPARE(editor.labelOrientation(), Qt::Vertical);
-    QCOMPARE(editor.UI()->qtHorizontalSlider->objectName(), QStringLiteral("qtHorizontalSlider"));
     QVERIFY(editor.UI()->qtLeftArrowLabel->isHidden());
     QVERIFY(editor.UI()->qtRightArrowLabel->isHidden());
     QCOMPARE(editor.UI()->qtHorizontalSlider->focusPolicy(), Qt::NoFocus);
@@ -148,87 +120,47 @@ void tst_QComboSpinBox::formLayout()
 void tst_QComboSpinBox::propertyOrder()
 {
     const QMetaObject *meta = &QComboSpinBox::staticMetaObject;
-    QStringList names;
-    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
-        names << QLatin1String(meta->property(i).name());
-    const QStringList expected = {
-        "spacing",
-        "value",
-        "minimum",
-        "maximum",
-        "singleStep",
-        "pageStep",
-        "independentSpin",
-        "spinMinimum",
-        "spinMaximum",
-        "resetOnDoubleClick",
-        "defaultValue",
-        "labelVisible",
-        "labelName",
-        "text",
-        "textFormat",
-        "pixmap",
-        "scaledContents",
-        "wordWrap",
-        "labelOrientation",
-        "wrapping",
-        "frame",
-        "alignment",
-        "readOnly",
-        "buttonSymbols",
-        "specialValueText",
-        "accelerated",
-        "correctionMode",
-        "keyboardTracking",
-        "showGroupSeparator",
-        "tickPosition",
-        "tickInterval",
-        "tracking",
-        "orientation",
-        "invertedAppearance",
-        "invertedControls",
-        "sliderDown",
-    };
-    QCOMPARE(names, expected);
+    const QStringList names = propertyNames(meta);
+    const QString expected = "spacing value minimum maximum singleStep pageStep independentSpin "
+                             "spinMinimum spinMaximum resetOnDoubleClick defaultValue labelVisible "
+                             "labelName text textFormat pixmap scaledContents wordWrap "
+                             "labelOrientation wrapping frame alignment readOnly buttonSymbols "
+                             "specialValueText accelerated correctionMode keyboardTracking "
+                             "showGroupSeparator tickPosition tickInterval tracking orientation "
+                             "invertedAppearance invertedControls sliderDown";
+    QCOMPARE(names, expected.split(QLatin1Char(' ')));
     for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
         QVERIFY2(meta->property(i).isWritable(), meta->property(i).name());
 }
 
 void tst_QComboSpinBox::setValueEmitsOnceWithoutChildSignals()
 {
-    QSignalSpy spinSpy(m_spin, QOverload<int>::of(&QSpinBox::valueChanged));
-    QSignalSpy sliderSpy(m_slider, &QSlider::valueChanged);
     QSignalSpy sliderRecord(m_slider, &QSliderEx::RecordEditingValue);
-    m_editor->SetValue(42);
-    QCOMPARE(m_log, QStringList { "ValueChanged(42)" });
-    QCOMPARE(spinSpy.count(), 0);
-    QCOMPARE(sliderSpy.count(), 0);
-    QCOMPARE(m_editor->Value(), 42);
-    QCOMPARE(m_slider->value(), 42);
+    m_h->checkSetValueIsSilent(42, 42);
 
     // The slider treats the programmatic value as recorded: a later focus change reports nothing.
     m_slider->setFocusPolicy(Qt::StrongFocus);
     m_slider->setFocus();
     QTRY_VERIFY(m_slider->hasFocus());
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
+    m_h->other->setFocus();
+    QTRY_VERIFY(m_h->other->hasFocus());
     QCOMPARE(sliderRecord.count(), 0);
-    QCOMPARE(m_log, QStringList { "ValueChanged(42)" });
+    QCOMPARE(m_h->log, QStringList { "ValueChanged(42)" });
 }
 
 void tst_QComboSpinBox::sliderDragIsOneSession()
 {
     m_editor->SetMaximum(50);
-    m_log.clear();
+    m_h->log.clear();
     COMBO_DRAG_SLIDER_TO(m_slider, 30);
     QCOMPARE(m_editor->Value(), 30);
     QCOMPARE(m_spin->value(), 30);
-    QVERIFY(m_log.size() >= 3);
-    QCOMPARE(m_log.first(), QStringLiteral("EditStarted"));
-    QCOMPARE(m_log.at(m_log.size() - 2), QStringLiteral("ValueChanged(30)"));
-    QCOMPARE(m_log.last(), QStringLiteral("EditFinished"));
-    QCOMPARE(m_log.count(QStringLiteral("EditStarted")), 1);
-    QCOMPARE(m_log.count(QStringLiteral("EditFinished")), 1);
+    QVERIFY(m_h->log.size() >= 3);
+    QCOMPARE(m_h->log.first(), QStringLiteral("EditStarted"));
+    QCOMPARE(m_h->log.at(m_h->log.size() - 2), QStringLiteral("ValueChanged(30)"));
+    QCOMPARE(m_h->log.last(), QStringLiteral("EditFinished"));
+    QCOMPARE(m_h->log.count(QStringLiteral("EditStarted")), 1);
+    QCOMPARE(m_h->log.count(QStringLiteral("EditFinished")), 1);
     QCOMPARE(m_slider->objectName(), QStringLiteral("EditedWidget"));
 }
 
@@ -246,7 +178,7 @@ void tst_QComboSpinBox::typingInIndependentRange()
     COMBO_TYPE_INTO(m_spin, "150");
     QCOMPARE(m_editor->Value(), 150);
     QCOMPARE(m_slider->value(), 100);
-    QCOMPARE(m_log, (QStringList { "EditStarted", "ValueChanged(150)", "EditFinished" }));
+    QCOMPARE(m_h->log, (QStringList { "EditStarted", "ValueChanged(150)", "EditFinished" }));
     QTRY_VERIFY(!m_spin->hasFocus());
 }
 
@@ -257,9 +189,9 @@ void tst_QComboSpinBox::typingBeyondRangeIsClamped()
     QCOMPARE(m_editor->Value(), 150);
     QCOMPARE(m_slider->value(), 150);
     QCOMPARE(m_spin->maximum(), 150);
-    QCOMPARE(m_log.count(QStringLiteral("EditFinished")), 1);
-    QCOMPARE(m_log.last(), QStringLiteral("EditFinished"));
-    QVERIFY(m_log.contains(QStringLiteral("ValueChanged(150)")));
+    QCOMPARE(m_h->log.count(QStringLiteral("EditFinished")), 1);
+    QCOMPARE(m_h->log.last(), QStringLiteral("EditFinished"));
+    QVERIFY(m_h->log.contains(QStringLiteral("ValueChanged(150)")));
 }
 
 void tst_QComboSpinBox::steppingByKeysAndWheel()
@@ -271,9 +203,9 @@ void tst_QComboSpinBox::steppingByKeysAndWheel()
     QVERIFY(VelaTest::wheel(m_spin, 1));
     QCOMPARE(m_editor->Value(), 3);
     QCOMPARE(m_slider->value(), 3);
-    m_other->setFocus();
-    QTRY_VERIFY(m_other->hasFocus());
-    QCOMPARE(m_log,
+    m_h->other->setFocus();
+    QTRY_VERIFY(m_h->other->hasFocus());
+    QCOMPARE(m_h->log,
              (QStringList { "EditStarted", "ValueChanged(1)", "ValueChanged(2)", "ValueChanged(3)",
                             "EditFinished" }));
 }
@@ -281,7 +213,7 @@ void tst_QComboSpinBox::steppingByKeysAndWheel()
 void tst_QComboSpinBox::wheelNeverMovesSlider()
 {
     m_editor->SetValue(10);
-    m_log.clear();
+    m_h->log.clear();
     QVERIFY(!VelaTest::wheel(m_slider, 1));
     QVERIFY(!VelaTest::wheel(m_spin, 1));
     QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, handleRect(m_slider).center());
@@ -289,11 +221,19 @@ void tst_QComboSpinBox::wheelNeverMovesSlider()
     QVERIFY(!VelaTest::wheel(m_slider, -3));
     QCOMPARE(m_slider->value(), 10);
     QCOMPARE(m_editor->Value(), 10);
-    QVERIFY(m_log.filter(QStringLiteral("ValueChanged")).isEmpty());
+    QVERIFY(m_h->log.filter(QStringLiteral("ValueChanged")).isEmpty());
 }
 
 void tst_QComboSpinBox::rangeSetters()
 {
+    // Range changes that move the value are silent.
+    m_editor->SetValue(60);
+    m_h->log.clear();
+    m_editor->SetMaximum(20);
+    m_editor->SetSpinMinimum(30);
+    QCOMPARE(m_editor->Value(), 30);
+    QVERIFY(m_h->log.isEmpty());
+
     m_editor->SetMinimum(-10);
     m_editor->SetMaximum(40);
     QCOMPARE(m_spin->minimum(), -10);
@@ -327,16 +267,6 @@ void tst_QComboSpinBox::rangeSetters()
     QCOMPARE(m_editor->PageStep(), 20);
 }
 
-void tst_QComboSpinBox::rangeSettersAreSilent()
-{
-    m_editor->SetValue(60);
-    m_log.clear();
-    m_editor->SetMaximum(20);
-    m_editor->SetSpinMinimum(30);
-    QCOMPARE(m_editor->Value(), 30);
-    QVERIFY(m_log.isEmpty());
-}
-
 void tst_QComboSpinBox::mappings()
 {
     m_editor->SetValue(20);
@@ -345,16 +275,16 @@ void tst_QComboSpinBox::mappings()
     QCOMPARE(m_slider->minimum(), 0);
     QCOMPARE(m_slider->value(), 40);
     m_editor->SetSliderToSpin([](int position) { return position / 2; });
-    m_log.clear();
+    m_h->log.clear();
 
     COMBO_DRAG_SLIDER_TO(m_slider, 100);
     QCOMPARE(m_editor->Value(), 50);
     // The signal carries the slider position as it came.
-    QCOMPARE(m_log.at(m_log.size() - 2), QStringLiteral("ValueChanged(100)"));
+    QCOMPARE(m_h->log.at(m_h->log.size() - 2), QStringLiteral("ValueChanged(100)"));
 
     COMBO_TYPE_INTO(m_spin, "70");
     QCOMPARE(m_slider->value(), 140);
-    QVERIFY(m_log.contains(QStringLiteral("ValueChanged(70)")));
+    QVERIFY(m_h->log.contains(QStringLiteral("ValueChanged(70)")));
 
     // With the independent flag, a new mapping moves the slider but leaves its range.
     m_editor->SetIndependentSpin(true);
@@ -383,7 +313,7 @@ void tst_QComboSpinBox::editedMarking()
 
 void tst_QComboSpinBox::markingRepolishes()
 {
-    m_window->setStyleSheet(
+    m_h->window->setStyleSheet(
         QStringLiteral("QSlider#EditedWidget { background-color: #82be0f; }"
                        "QSlider#UneditedWidget { background-color: #505050; }"));
     m_editor->SetValue(3);
@@ -394,48 +324,12 @@ void tst_QComboSpinBox::markingRepolishes()
 
 void tst_QComboSpinBox::doubleClickReset_data()
 {
-    QTest::addColumn<bool>("onLabel");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("resetFlag");
-    QTest::addColumn<bool>("resets");
-    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true << true;
-    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true << true;
-    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << true << false;
-    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << true << false;
-    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << true << false;
-    QTest::newRow("flag off") << true << int(Qt::LeftButton) << true << false << false;
+    addDoubleClickRows();
 }
 
 void tst_QComboSpinBox::doubleClickReset()
 {
-    QFETCH(bool, onLabel);
-    QFETCH(int, button);
-    QFETCH(bool, enabled);
-    QFETCH(bool, resetFlag);
-    QFETCH(bool, resets);
-
-    m_editor->SetDefaultValue(5);
-    m_editor->SetResetOnDoubleClick(resetFlag);
-    m_editor->SetValue(30);
-    m_editor->setEnabled(enabled);
-    m_log.clear();
-
-    QWidget *target = onLabel ? static_cast<QWidget *>(m_editor->UI()->qtLabel) : m_slider;
-    doubleClick(target, Qt::MouseButton(button),
-                onLabel ? QPoint() : handleRect(m_slider).center());
-    if (resets) {
-        QCOMPARE(m_log, (QStringList { "ValueChanged(5)", "EditFinished" }));
-        QCOMPARE(m_editor->Value(), 5);
-        QCOMPARE(m_slider->value(), 5);
-        QCOMPARE(m_slider->objectName(), QStringLiteral("UneditedWidget"));
-    } else {
-        QVERIFY(!m_log.contains(QStringLiteral("ValueChanged(5)")));
-        QVERIFY(!m_log.contains(QStringLiteral("EditFinished")));
-        QCOMPARE(m_editor->Value(), 30);
-    }
-    if (resetFlag && enabled && !onLabel)
-        QVERIFY(!m_slider->isSliderDown());
+    m_h->doubleClickReset(30, 5, 5);
 }
 
 void tst_QComboSpinBox::labelOrientationIsStoredOnly()
@@ -444,7 +338,6 @@ void tst_QComboSpinBox::labelOrientationIsStoredOnly()
     const QRect label = m_editor->UI()->qtLabel->geometry();
     m_editor->setLabelOrientation(Qt::Horizontal);
     QCOMPARE(m_editor->labelOrientation(), Qt::Horizontal);
-    QCOMPARE(m_editor->property("labelOrientation").value<Qt::Orientation>(), Qt::Horizontal);
     QCOMPARE(m_editor->layout(), before);
     QApplication::processEvents();
     QCOMPARE(m_editor->UI()->qtLabel->geometry(), label);
@@ -456,74 +349,33 @@ void tst_QComboSpinBox::forwardedProperties_data()
     QTest::addColumn<QString>("child");
     QTest::addColumn<QString>("childProperty");
     QTest::addColumn<QVariant>("value");
-    QTest::newRow("text") << "text"
-                          << "label"
-                          << "text" << QVariant(QStringLiteral("Weight"));
-    QTest::newRow("textFormat") << "textFormat"
-                                << "label"
-                                << "textFormat" << QVariant::fromValue(Qt::RichText);
-    QTest::newRow("scaledContents") << "scaledContents"
-                                    << "label"
-                                    << "scaledContents" << QVariant(true);
-    QTest::newRow("wordWrap") << "wordWrap"
-                              << "label"
-                              << "wordWrap" << QVariant(true);
-    QTest::newRow("labelName") << "labelName"
-                               << "label"
-                               << "objectName" << QVariant(QStringLiteral("captionLabel"));
-    QTest::newRow("wrapping") << "wrapping"
-                              << "spin"
-                              << "wrapping" << QVariant(true);
-    QTest::newRow("frame") << "frame"
-                           << "spin"
-                           << "frame" << QVariant(false);
-    QTest::newRow("alignment") << "alignment"
-                               << "spin"
-                               << "alignment" << QVariant::fromValue(Qt::Alignment(Qt::AlignRight));
-    QTest::newRow("readOnly") << "readOnly"
-                              << "spin"
-                              << "readOnly" << QVariant(true);
-    QTest::newRow("buttonSymbols")
-        << "buttonSymbols"
-        << "spin"
-        << "buttonSymbols" << QVariant::fromValue(QAbstractSpinBox::NoButtons);
-    QTest::newRow("specialValueText") << "specialValueText"
-                                      << "spin"
-                                      << "specialValueText" << QVariant(QStringLiteral("auto"));
-    QTest::newRow("accelerated") << "accelerated"
-                                 << "spin"
-                                 << "accelerated" << QVariant(true);
-    QTest::newRow("correctionMode")
-        << "correctionMode"
-        << "spin"
-        << "correctionMode" << QVariant::fromValue(QAbstractSpinBox::CorrectToNearestValue);
-    QTest::newRow("keyboardTracking") << "keyboardTracking"
-                                      << "spin"
-                                      << "keyboardTracking" << QVariant(true);
-    QTest::newRow("showGroupSeparator") << "showGroupSeparator"
-                                        << "spin"
-                                        << "showGroupSeparator" << QVariant(true);
-    QTest::newRow("tickPosition") << "tickPosition"
-                                  << "slider"
-                                  << "tickPosition" << QVariant::fromValue(QSlider::TicksBelow);
-    QTest::newRow("tickInterval") << "tickInterval"
-                                  << "slider"
-                                  << "tickInterval" << QVariant(7);
-    QTest::newRow("tracking") << "tracking"
-                              << "slider"
-                              << "tracking" << QVariant(false);
-    QTest::newRow("orientation") << "orientation"
-                                 << "slider"
-                                 << "orientation" << QVariant::fromValue(Qt::Vertical);
-    QTest::newRow("invertedAppearance") << "invertedAppearance"
-                                        << "slider"
-                                        << "invertedAppearance" << QVariant(true);
-    QTest::newRow("invertedControls") << "invertedControls"
-                                      << "slider"
-                                      << "invertedControls" << QVariant(true);
-    QTest::newRow("sliderDown") << "sliderDown"
-                                << "slider"
-                                << "sliderDown" << QVariant(true);
+    const auto row = [](const char *property, const char *child, const QVariant &value,
+                        const char *childProperty = nullptr) {
+        QTest::newRow(property) << QString(property) << QString(child)
+                                << QString(childProperty ? childProperty : property) << value;
+    };
+    row("text", "label", QStringLiteral("Weight"));
+    row("textFormat", "label", QVariant::fromValue(Qt::RichText));
+    row("scaledContents", "label", true);
+    row("wordWrap", "label", true);
+    row("labelName", "label", QStringLiteral("captionLabel"), "objectName");
+    row("wrapping", "spin", true);
+    row("frame", "spin", false);
+    row("alignment", "spin", QVariant::fromValue(Qt::Alignment(Qt::AlignRight)));
+    row("readOnly", "spin", true);
+    row("buttonSymbols", "spin", QVariant::fromValue(QAbstractSpinBox::NoButtons));
+    row("specialValueText", "spin", QStringLiteral("auto"));
+    row("accelerated", "spin", true);
+    row("correctionMode", "spin", QVariant::fromValue(QAbstractSpinBox::CorrectToNearestValue));
+    row("keyboardTracking", "spin", true);
+    row("showGroupSeparator", "spin", true);
+    row("tickPosition", "slider", QVariant::fromValue(QSlider::TicksBelow));
+    row("tickInterval", "slider", 7);
+    row("tracking", "slider", false);
+    row("orientation", "slider", QVariant::fromValue(Qt::Vertical));
+    row("invertedAppearance", "slider", true);
+    row("invertedControls", "slider", true);
+    row("sliderDown", "slider", true);
 }
 
 void tst_QComboSpinBox::forwardedProperties()

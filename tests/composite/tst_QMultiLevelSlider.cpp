@@ -45,6 +45,16 @@ QMultiLevelSlider::IndicatorDesc indicator(int value)
     return desc;
 }
 
+// Initialises `slider` with the given normal image only, as hosts that draw no states do.
+quint32 initPlain(QMultiLevelSlider &slider, int minimum, int maximum, const Indicators &list,
+                  bool freeOrder, bool middleMode, QPixmap *normal = nullptr)
+{
+    return slider
+        .InitUi(minimum, maximum, freeOrder, list, middleMode, normal, nullptr, false, nullptr,
+                nullptr, Qt::gray)
+        .code();
+}
+
 Indicators indicators(std::initializer_list<int> values)
 {
     Indicators list;
@@ -93,6 +103,14 @@ private:
     QPoint centreOf(unsigned long long index) const;
     void drag(unsigned long long index, int toX);
     QImage paint();
+    // The values of the first `count` indicators.
+    QList<int> values(int count) const
+    {
+        QList<int> list;
+        for (int i = 0; i < count; ++i)
+            list << m_slider->GetIndicatorValue(i);
+        return list;
+    }
 
     std::unique_ptr<Slider> m_slider;
     QPixmap m_normal = filled(Qt::red);
@@ -174,29 +192,25 @@ void tst_QMultiLevelSlider::initUiValidation_data()
     QTest::addColumn<quint32>("code");
 
     const QSize same(16, 10);
-    QTest::newRow("valid") << 0 << 100 << false << QList<int> { 10, 20 } << same << same << 0u;
-    QTest::newRow("equal bounds") << 5 << 5 << false << QList<int> { 5 } << same << same
-                                  << 0x80000003u;
-    QTest::newRow("inverted bounds")
-        << 100 << 0 << false << QList<int> { 10 } << same << same << 0x80000003u;
-    QTest::newRow("range wider than int") << std::numeric_limits<int>::min() << 1 << false
-                                          << QList<int> { 0 } << same << same << 0x80000003u;
-    QTest::newRow("below minimum")
-        << 0 << 100 << false << QList<int> { -1, 20 } << same << same << 0x80000003u;
-    QTest::newRow("above maximum")
-        << 0 << 100 << false << QList<int> { 10, 101 } << same << same << 0x80000003u;
-    QTest::newRow("equal values") << 0 << 100 << false << QList<int> { 10, 10 } << same << same
-                                  << 0x80000003u;
-    QTest::newRow("falling values")
-        << 0 << 100 << false << QList<int> { 20, 10 } << same << same << 0x80000003u;
-    QTest::newRow("equal values, free order")
-        << 0 << 100 << true << QList<int> { 10, 10 } << same << same << 0u;
-    QTest::newRow("falling values, free order")
-        << 0 << 100 << true << QList<int> { 20, 10 } << same << same << 0u;
-    QTest::newRow("selected image of another size")
-        << 0 << 100 << false << QList<int> { 10 } << QSize(17, 10) << same << 0x80000003u;
-    QTest::newRow("hover image of another size")
-        << 0 << 100 << false << QList<int> { 10 } << same << QSize(16, 9) << 0x80000003u;
+    const quint32 bad = 0x80000003u;
+    const auto row = [&](const char *name, int minimum, int maximum, bool freeOrder,
+                         QList<int> values, quint32 code, QSize selected = QSize(16, 10),
+                         QSize hover = QSize(16, 10)) {
+        QTest::newRow(name) << minimum << maximum << freeOrder << values << selected << hover
+                            << code;
+    };
+    row("valid", 0, 100, false, { 10, 20 }, 0u);
+    row("equal bounds", 5, 5, false, { 5 }, bad);
+    row("inverted bounds", 100, 0, false, { 10 }, bad);
+    row("range wider than int", std::numeric_limits<int>::min(), 1, false, { 0 }, bad);
+    row("below minimum", 0, 100, false, { -1, 20 }, bad);
+    row("above maximum", 0, 100, false, { 10, 101 }, bad);
+    row("equal values", 0, 100, false, { 10, 10 }, bad);
+    row("falling values", 0, 100, false, { 20, 10 }, bad);
+    row("equal values, free order", 0, 100, true, { 10, 10 }, 0u);
+    row("falling values, free order", 0, 100, true, { 20, 10 }, 0u);
+    row("selected image of another size", 0, 100, false, { 10 }, bad, QSize(17, 10));
+    row("hover image of another size", 0, 100, false, { 10 }, bad, same, QSize(16, 9));
 }
 
 void tst_QMultiLevelSlider::initUiValidation()
@@ -237,27 +251,15 @@ void tst_QMultiLevelSlider::initUiValidation()
 
 void tst_QMultiLevelSlider::middleModeNeedsThreeOrderedIndicators()
 {
-    QCOMPARE(m_slider
-                 ->InitUi(10, 90, false, indicators({ 20, 30 }), true, nullptr, nullptr, false,
-                          nullptr, nullptr, Qt::gray)
-                 .code(),
-             0x80000003u);
+    QCOMPARE(initPlain(*m_slider, 10, 90, indicators({ 20, 30 }), false, true), 0x80000003u);
     // The bounds of the rejected call stay stored, the list is not taken.
     QCOMPARE(m_slider->GetCount(), 0u);
     QCOMPARE(m_slider->GetIndicatorValue(0), 10);
 
     Slider other(nullptr);
-    QCOMPARE(other
-                 .InitUi(0, 90, true, indicators({ 20, 30, 40 }), true, nullptr, nullptr, false,
-                         nullptr, nullptr, Qt::gray)
-                 .code(),
-             0x80000003u);
+    QCOMPARE(initPlain(other, 0, 90, indicators({ 20, 30, 40 }), true, true), 0x80000003u);
     Slider third(nullptr);
-    QCOMPARE(third
-                 .InitUi(0, 90, false, indicators({ 20, 30, 40 }), true, nullptr, nullptr, false,
-                         nullptr, nullptr, Qt::gray)
-                 .code(),
-             0u);
+    QCOMPARE(initPlain(third, 0, 90, indicators({ 20, 30, 40 }), false, true), 0u);
 }
 
 void tst_QMultiLevelSlider::geometry()
@@ -265,11 +267,7 @@ void tst_QMultiLevelSlider::geometry()
     Indicators list = indicators({ 0, 2500, 5000, 10000 });
     list[1].bPlaceUpper = true;
     list[1].nUpperOffset = 8;
-    QCOMPARE(m_slider
-                 ->InitUi(0, 10000, false, list, false, &m_normal, nullptr, false, nullptr, nullptr,
-                          Qt::gray)
-                 .code(),
-             0u);
+    QCOMPARE(initPlain(*m_slider, 0, 10000, list, false, false, &m_normal), 0u);
     // No upper middle: the minimum height is the floor of 12.
     QCOMPARE(m_slider->minimumHeight(), 12);
     show(200);
@@ -293,10 +291,7 @@ void tst_QMultiLevelSlider::geometry()
 
 void tst_QMultiLevelSlider::setIndicatorValue()
 {
-    QVERIFY(m_slider
-                ->InitUi(100, 200, false, indicators({ 120, 150, 180 }), false, nullptr, nullptr,
-                         false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QCOMPARE(initPlain(*m_slider, 100, 200, indicators({ 120, 150, 180 }), false, false), 0u);
     int calls = 0;
     m_slider->SetIndicatorMoveSignalInterface([&](unsigned long long) { ++calls; });
     QCOMPARE(m_slider->SetIndicatorValue(5, 130, true).code(), 0x80000004u);
@@ -335,8 +330,7 @@ void tst_QMultiLevelSlider::minimumGapWhileDragging()
     show(200);
     // h = 8, L = 183: the gap is round(9 / 183 * 10000) = 492.
     drag(0, 199);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 5000 - 492);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(values(2), QList<int>({ 5000 - 492, 5000 }));
 
     // Dragged down onto the first one, the second stops a gap above it.
     drag(1, 0);
@@ -436,8 +430,7 @@ void tst_QMultiLevelSlider::unconstrainedNeighbour()
     show(217);
     // Gap: round(9 / 200 * 10000) = 450. The unconstrained middle one is passed over.
     drag(0, 216);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 9000 - 450);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
+    QCOMPARE(values(2), QList<int>({ 9000 - 450, 5000 }));
 }
 
 void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
@@ -445,8 +438,7 @@ void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
     QVERIFY(init(0, 10000, indicators({ 6000, 2000 }), true, false));
     show(217);
     drag(1, 8 + 190);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 9500);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 6000);
+    QCOMPARE(values(2), QList<int>({ 6000, 9500 }));
 }
 
 void tst_QMultiLevelSlider::middleFollowsFirst()
@@ -455,16 +447,12 @@ void tst_QMultiLevelSlider::middleFollowsFirst()
     show(217);
     QVERIFY(m_slider->UpdateMiddleIndicatorRatio().succeeded());
     drag(0, 8 + 40);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 8000);
+    QCOMPARE(values(3), QList<int>({ 2000, 5000, 8000 }));
 
     // The ends keep a gap of one in middle mode; the middle one, pulled along to the same value,
     // then pushes the first one back by that gap.
     drag(0, 216);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 7998);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 7999);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 8000);
+    QCOMPARE(values(3), QList<int>({ 7998, 7999, 8000 }));
 }
 
 void tst_QMultiLevelSlider::middleFollowsLast()
@@ -473,9 +461,7 @@ void tst_QMultiLevelSlider::middleFollowsLast()
     show(217);
     // The default ratio is one half, whatever the initial values are.
     drag(2, 8 + 200);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 10000);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+    QCOMPARE(values(3), QList<int>({ 2000, 6000, 10000 }));
 }
 
 void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
@@ -495,9 +481,7 @@ void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
     // SetIndicatorValue with update recomputes the ratio from the values: (5000 - 2000) / 6000.
     QVERIFY(m_slider->SetIndicatorValue(1, 5000, true).succeeded());
     drag(2, 8 + 180);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 9000);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5500);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 2000);
+    QCOMPARE(values(3), QList<int>({ 2000, 5500, 9000 }));
 }
 
 void tst_QMultiLevelSlider::stackedEndsPickFirst()
@@ -533,10 +517,8 @@ void tst_QMultiLevelSlider::upperMiddleRaisesTrack()
     QCOMPARE(m_slider->DetermineIndicatorImage(0), &m_normal);
 
     Slider other(nullptr);
-    QVERIFY(other
-                .InitUi(0, 10000, false, indicators({ 0, 5000, 10000 }), true, &m_normal, nullptr,
-                        false, nullptr, nullptr, Qt::gray)
-                .succeeded());
+    QCOMPARE(initPlain(other, 0, 10000, indicators({ 0, 5000, 10000 }), false, true, &m_normal),
+             0u);
     QCOMPARE(other.DetermineIndicatorImage(1), &m_normal);
     other.SetIndicatorPlaceUpper(1, true);
     QVERIFY(other.DetermineIndicatorImage(1) != &m_normal);

@@ -4,6 +4,7 @@
 #include <QtTest>
 
 using Points = std::vector<Vela::CVector3<float>>;
+Q_DECLARE_METATYPE(Points)
 
 namespace {
 
@@ -44,11 +45,10 @@ class tst_QKdCurveWidget : public QObject
 
 private slots:
     void init();
-    void emptyDrawsNothing();
+    void drawsNothing_data();
+    void drawsNothing();
     void usesNinetyPercent();
     void yAxisPointsDown();
-    void singlePointDrawsNoLine();
-    void emptySequenceClears();
     void repaintsAtOnce();
 
 private:
@@ -61,8 +61,24 @@ void tst_QKdCurveWidget::init()
     m_widget->resize(200, 100);
 }
 
-void tst_QKdCurveWidget::emptyDrawsNothing()
+void tst_QKdCurveWidget::drawsNothing_data()
 {
+    QTest::addColumn<Points>("points");
+    QTest::newRow("never set") << Points();
+    QTest::newRow("single point") << Points({ { 0.5f, 0.5f, 0.0f } });
+}
+
+void tst_QKdCurveWidget::drawsNothing()
+{
+    QFETCH(Points, points);
+    if (!points.empty())
+        m_widget->SetCurveSeq(points);
+    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
+
+    // An empty sequence clears a drawn line.
+    m_widget->SetCurveSeq({ { 0.0f, 0.0f, 0.0f }, { 1.0f, 1.0f, 0.0f } });
+    QVERIFY(bluePixels(m_widget->grab().toImage(), m_widget->rect()) > 0);
+    m_widget->SetCurveSeq({});
     QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
 }
 
@@ -88,20 +104,6 @@ void tst_QKdCurveWidget::yAxisPointsDown()
     QCOMPARE(bluePixels(image, QRect(0, 0, 200, 42)), 0);
     QCOMPARE(bluePixels(image, QRect(0, 48, 200, 52)), 0);
     QCOMPARE(bluePixels(image, QRect(182, 0, 18, 100)), 0);
-}
-
-void tst_QKdCurveWidget::singlePointDrawsNoLine()
-{
-    m_widget->SetCurveSeq({ { 0.5f, 0.5f, 0.0f } });
-    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
-}
-
-void tst_QKdCurveWidget::emptySequenceClears()
-{
-    m_widget->SetCurveSeq({ { 0.0f, 0.0f, 0.0f }, { 1.0f, 1.0f, 0.0f } });
-    QVERIFY(bluePixels(m_widget->grab().toImage(), m_widget->rect()) > 0);
-    m_widget->SetCurveSeq({});
-    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
 }
 
 void tst_QKdCurveWidget::repaintsAtOnce()

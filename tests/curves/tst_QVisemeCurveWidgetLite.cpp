@@ -16,6 +16,7 @@ namespace {
 // x 15..311 and y 15..237.
 constexpr int kLeft = 15, kTop = 15, kRight = 311, kBottom = 237;
 
+const QStringList kApplied = { "ClearKeys", "ApplyVisemeData" };
 const char kButtonFormat[] = "application/x-visemebutton";
 const char kListItemFormat[] = "application/x-visemelistitem";
 
@@ -30,6 +31,12 @@ QPointF keyAt(int x, int y)
 {
     return QPointF(double(float(x - kLeft) / float(kRight - kLeft)),
                    double(float(kBottom - y) / float(kBottom - kTop)));
+}
+
+// The report of a selected key's weight, in percent.
+QString selChanged(QPointF key)
+{
+    return QStringLiteral("SelKeyValueChanged %1").arg(float(key.y() * 100));
 }
 
 void moveMouse(QWidget *widget, QPoint pos, Qt::MouseButtons buttons = Qt::LeftButton)
@@ -114,12 +121,10 @@ private slots:
     void selectedKeyValue();
     void dragEnterAcceptsAnything();
     void dropListItemClaimsSlot();
-    void dropListItemShownAlready();
-    void dropListItemWithoutText();
+    void dropsThatChangeNothing_data();
+    void dropsThatChangeNothing();
     void dropButtonFreesCurrentSlot_data();
     void dropButtonFreesCurrentSlot();
-    void dropButtonOnButton();
-    void dropOtherData();
     void paintsEveryNamedSlot();
     void weightLabelStaysInside_data();
     void weightLabelStaysInside();
@@ -295,12 +300,10 @@ void tst_QVisemeCurveWidgetLite::pressAddsSortedSelectedKey()
     const QPointF added = keyAt(163, 126);
     QCOMPARE(slot(2).m_lstKeys, Keys({ QPointF(0, 0), added, QPointF(1, 0) }));
     QCOMPARE(slot(2).m_nSelectedKey, 1);
-    QCOMPARE(m_log,
-             QStringList(QStringLiteral("SelKeyValueChanged %1").arg(float(added.y() * 100))));
+    QCOMPARE(m_log, QStringList(selChanged(added)));
     QCOMPARE(m_widget->GetSelPtValue(), float(added.y() * 100));
     QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, pos);
-    QCOMPARE(m_log.mid(1),
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log.mid(1), kApplied);
 }
 
 void tst_QVisemeCurveWidgetLite::pressAddsOnlyWhenAllowed_data()
@@ -371,17 +374,13 @@ void tst_QVisemeCurveWidgetLite::dragMovesKeyAndSortsOnRelease()
     moveMouse(m_widget, QPoint(250, 60));
     const QPointF moved = keyAt(250, 60);
     QCOMPARE(slot(1).m_lstKeys, Keys({ QPointF(0, 0), moved, QPointF(0.5, 0.25), QPointF(1, 0) }));
-    QCOMPARE(
-        m_log,
-        QStringList({ QStringLiteral("SelKeyValueChanged %1").arg(float(keyAt(200, 100).y() * 100)),
-                      QStringLiteral("SelKeyValueChanged %1").arg(float(moved.y() * 100)) }));
+    QCOMPARE(m_log, QStringList({ selChanged(keyAt(200, 100)), selChanged(moved) }));
 
     QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(250, 60));
     QCOMPARE(slot(1).m_lstKeys, Keys({ QPointF(0, 0), QPointF(0.5, 0.25), moved, QPointF(1, 0) }));
     // The selection is not adjusted by the sort.
     QCOMPARE(slot(1).m_nSelectedKey, 1);
-    QCOMPARE(m_log.mid(2),
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log.mid(2), kApplied);
 }
 
 void tst_QVisemeCurveWidgetLite::dragIsClampedToArea()
@@ -450,18 +449,13 @@ void tst_QVisemeCurveWidgetLite::rightPressDeletesKey()
     useSlot(0, QStringLiteral("AA"), keys);
     const QPoint pos = pixelOf(keys.at(index));
     QTest::mousePress(m_widget, Qt::RightButton, Qt::NoModifier, pos);
-    const float hitValue = float(keys.at(index).y() * 100);
-    keys.removeAt(index);
+    const QPointF hit = keys.takeAt(index);
     QCOMPARE(slot(0).m_lstKeys, keys);
     QCOMPARE(slot(0).m_nSelectedKey, selectedAfter);
-    QCOMPARE(m_log,
-             QStringList({ QStringLiteral("SelKeyValueChanged %1").arg(hitValue),
-                           QStringLiteral("SelKeyValueChanged %1")
-                               .arg(float(keys.at(selectedAfter).y() * 100)) }));
+    QCOMPARE(m_log, QStringList({ selChanged(hit), selChanged(keys.at(selectedAfter)) }));
     // The release that follows still reports the slot.
     QTest::mouseRelease(m_widget, Qt::RightButton, Qt::NoModifier, pos);
-    QCOMPARE(m_log.mid(2),
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log.mid(2), kApplied);
 }
 
 void tst_QVisemeCurveWidgetLite::rightPressOnLastKey()
@@ -483,8 +477,7 @@ void tst_QVisemeCurveWidgetLite::releaseReplacesKeyAtSameTime()
     moveMouse(m_widget, QPoint(kRight + 40, 100));
     QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(kRight + 40, 100));
     QCOMPARE(slot(0).m_lstKeys, Keys({ QPointF(0, 0), keyAt(kRight, 100) }));
-    QCOMPARE(m_log.mid(m_log.size() - 2),
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log.mid(m_log.size() - 2), kApplied);
 }
 
 void tst_QVisemeCurveWidgetLite::releaseNeedsSlotInUse()
@@ -507,8 +500,7 @@ void tst_QVisemeCurveWidgetLite::releaseNeedsSlotInUse()
     // A selection past the end still reports, and deletes nothing.
     slot(0).m_nSelectedKey = 5;
     QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    QCOMPARE(m_log,
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log, kApplied);
     QCOMPARE(slot(0).m_lstKeys.size(), 3);
 }
 
@@ -555,37 +547,12 @@ void tst_QVisemeCurveWidgetLite::dropListItemClaimsSlot()
     QCOMPARE(slot(2).m_lstKeys, Keys({ QPointF(0, 0), QPointF(1, 0) }));
     QCOMPARE(slot(7).m_lstKeys, Keys({ QPointF(0, 0), QPointF(1, 0) }));
     QCOMPARE(slot(0).m_lstKeys, Keys({ QPointF(0, 0), QPointF(1, 0.5) }));
-    QCOMPARE(m_log,
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log, kApplied);
 
     // Slot 2 is now the current one: a press adds its key there.
     QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
     QCOMPARE(slot(2).m_lstKeys.size(), 3);
     QCOMPARE(slot(0).m_lstKeys.size(), 2);
-}
-
-void tst_QVisemeCurveWidgetLite::dropListItemShownAlready()
-{
-    useSlot(0, QStringLiteral("AA"), { QPointF(0, 0) });
-    m_buttons.at(0)->setText(QStringLiteral("AA"));
-    const QString name = QStringLiteral("AA");
-    std::unique_ptr<QMimeData> data(mime(kListItemFormat, &name));
-    QVERIFY(drop(m_widget, data.get(), m_buttons.at(3)->geometry().center()));
-    QVERIFY(m_buttons.at(3)->text().isEmpty());
-    QVERIFY(!m_buttons.at(3)->isChecked());
-    QVERIFY(!slot(3).m_bInUse);
-    QVERIFY(slot(3).m_lstKeys.isEmpty());
-    QVERIFY(m_log.isEmpty());
-}
-
-void tst_QVisemeCurveWidgetLite::dropListItemWithoutText()
-{
-    // Free buttons show no text, so a nameless viseme counts as shown already.
-    std::unique_ptr<QMimeData> data(mime(kListItemFormat));
-    QVERIFY(drop(m_widget, data.get(), m_buttons.at(1)->geometry().center()));
-    QVERIFY(!slot(1).m_bInUse);
-    QVERIFY(!m_buttons.at(1)->isChecked());
-    QVERIFY(m_log.isEmpty());
 }
 
 void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot_data()
@@ -618,8 +585,7 @@ void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot()
     QVERIFY(slot(3).m_strName.isEmpty());
     QVERIFY(slot(3).m_lstKeys.isEmpty());
     QVERIFY(!slot(3).m_bInUse);
-    QCOMPARE(m_log,
-             QStringList({ QStringLiteral("ClearKeys"), QStringLiteral("ApplyVisemeData") }));
+    QCOMPARE(m_log, kApplied);
     for (int i = 0; i < 12; ++i) {
         if (i != 3)
             QCOMPARE(m_buttons.at(i)->isChecked(), i == expectedChecked);
@@ -632,28 +598,40 @@ void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot()
     QCOMPARE(slot(current).m_lstKeys.size(), 1);
 }
 
-void tst_QVisemeCurveWidgetLite::dropButtonOnButton()
+void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing_data()
 {
-    useSlot(3, QStringLiteral("FV"), { QPointF(0, 0) });
-    m_buttons.at(3)->setText(QStringLiteral("FV"));
-    const QString text = QStringLiteral("ignored");
-    std::unique_ptr<QMimeData> data(mime(kButtonFormat, &text));
-    drop(m_widget, data.get(), m_buttons.at(8)->geometry().center());
-    QCOMPARE(m_buttons.at(3)->text(), QStringLiteral("FV"));
-    QCOMPARE(slot(3).m_strName, QStringLiteral("FV"));
-    QCOMPARE(slot(3).m_lstKeys.size(), 1);
-    QVERIFY(m_log.isEmpty());
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QString>("text"); // none when null
+    QTest::addColumn<int>("button");
+    const QString item(kListItemFormat), button(kButtonFormat);
+    QTest::newRow("list item shown already") << item << QStringLiteral("FV") << 4;
+    // Free buttons show no text, so a nameless viseme counts as shown already.
+    QTest::newRow("list item without text") << item << QString() << 1;
+    QTest::newRow("button onto a button") << button << QStringLiteral("ignored") << 8;
+    QTest::newRow("other data") << QString() << QStringLiteral("EE") << 2;
 }
 
-void tst_QVisemeCurveWidgetLite::dropOtherData()
+void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing()
 {
+    QFETCH(QString, format);
+    QFETCH(QString, text);
+    QFETCH(int, button);
     useSlot(3, QStringLiteral("FV"), { QPointF(0, 0) });
     m_buttons.at(3)->setText(QStringLiteral("FV"));
     QMimeData data;
-    data.setText(QStringLiteral("EE"));
-    QVERIFY(drop(m_widget, &data, m_buttons.at(2)->geometry().center()));
-    QVERIFY(m_buttons.at(2)->text().isEmpty());
+    if (!format.isEmpty())
+        data.setData(format, QByteArray());
+    if (!text.isNull())
+        data.setText(text);
+    const bool accepted = drop(m_widget, &data, m_buttons.at(button)->geometry().center());
+    QVERIFY(accepted || format == QLatin1String(kButtonFormat));
+    QVERIFY(m_buttons.at(button)->text().isEmpty());
+    QVERIFY(!m_buttons.at(button)->isChecked());
+    QVERIFY(!slot(button).m_bInUse);
+    QVERIFY(slot(button).m_lstKeys.isEmpty());
+    QCOMPARE(m_buttons.at(3)->text(), QStringLiteral("FV"));
     QCOMPARE(slot(3).m_strName, QStringLiteral("FV"));
+    QCOMPARE(slot(3).m_lstKeys.size(), 1);
     QVERIFY(m_log.isEmpty());
 }
 

@@ -1,3 +1,4 @@
+#include "../composite/ComboEditorTestSupport.h"
 #include "CKdFKModifyCellWidget.h"
 #include "QComboSpinBox.h"
 #include "QIntegerSliderWithRenameButton.h"
@@ -9,8 +10,6 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QSpinBox>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QToolButton>
 #include <QtTest>
 
@@ -41,29 +40,6 @@ QIntegerSliderWithRenameButton *Wrapper(CKdFKModifyCellWidget &kCell)
 QSlider *SliderOf(CKdFKModifyCellWidget &kCell)
 {
     return kCell.GetSlider()->UI()->qtHorizontalSlider;
-}
-
-QPoint HandleCentre(QSlider *pkSlider)
-{
-    QStyleOptionSlider kOption;
-    kOption.initFrom(pkSlider);
-    kOption.orientation = pkSlider->orientation();
-    kOption.minimum = pkSlider->minimum();
-    kOption.maximum = pkSlider->maximum();
-    kOption.sliderPosition = pkSlider->sliderPosition();
-    kOption.sliderValue = pkSlider->value();
-    kOption.upsideDown = pkSlider->invertedAppearance();
-    kOption.subControls = QStyle::SC_All;
-    return pkSlider->style()
-        ->subControlRect(QStyle::CC_Slider, &kOption, QStyle::SC_SliderHandle, pkSlider)
-        .center();
-}
-
-void SendMouseMove(QWidget *pkWidget, const QPoint &kPos, Qt::MouseButtons eButtons)
-{
-    QMouseEvent kEvent(QEvent::MouseMove, kPos, pkWidget->mapToGlobal(kPos), Qt::NoButton, eButtons,
-                       Qt::NoModifier);
-    QApplication::sendEvent(pkWidget, &kEvent);
 }
 
 } // namespace
@@ -218,11 +194,11 @@ void tst_CKdFKModifyCellWidget::sliderDragIsOneSession()
     SessionRecorder kRecorder(&kCell);
 
     QSlider *pkSlider = SliderOf(kCell);
-    const QPoint kStart = HandleCentre(pkSlider);
+    const QPoint kStart = ComboEditorTest::handleRect(pkSlider).center();
     QTest::mousePress(pkSlider, Qt::LeftButton, Qt::NoModifier, kStart);
     QVERIFY(kCell.IsEditing());
-    SendMouseMove(pkSlider, kStart + QPoint(pkSlider->width() / 4, 0), Qt::LeftButton);
-    SendMouseMove(pkSlider, kStart + QPoint(pkSlider->width() / 2, 0), Qt::LeftButton);
+    ComboEditorTest::moveHeld(pkSlider, kStart + QPoint(pkSlider->width() / 4, 0));
+    ComboEditorTest::moveHeld(pkSlider, kStart + QPoint(pkSlider->width() / 2, 0));
     QTest::mouseRelease(pkSlider, Qt::LeftButton, Qt::NoModifier,
                         kStart + QPoint(pkSlider->width() / 2, 0));
 

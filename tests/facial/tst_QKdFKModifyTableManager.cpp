@@ -1,3 +1,4 @@
+#include "../composite/ComboEditorTestSupport.h"
 #include "CKdFKModifyCellWidget.h"
 #include "QComboSpinBox.h"
 #include "QKdFKModifyTableManager.h"
@@ -9,8 +10,6 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QStandardItemModel>
-#include <QStyle>
-#include <QStyleOptionSlider>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -98,12 +97,8 @@ QByteArray CompleteIni(const QByteArray &kSliderRange, const QByteArray &kSpinRa
     return kSections + kSlider + kSpin;
 }
 
-struct Ranges
-{
-    int nMinimum, nMaximum, nSpinMinimum, nSpinMaximum;
-};
-
-Ranges RangesOf(CKdFKModifyCellWidget *pkCell)
+// Slider minimum and maximum, then spin minimum and maximum.
+QVector<int> RangesOf(CKdFKModifyCellWidget *pkCell)
 {
     return { pkCell->GetMinimum(), pkCell->GetMaximum(), pkCell->GetSpinMinimum(),
              pkCell->GetSpinMaximum() };
@@ -146,28 +141,6 @@ void WireCell(CKdFKModifyCellWidget *pkCell, QKdFKModifyTableManager *pkTable)
                      [pkCell, pkTable] { pkTable->UpdateSliderValues(pkCell); });
     QObject::connect(pkCell, &CKdFKModifyCellWidget::SliderEditFinished, pkTable,
                      [pkCell, pkTable] { pkTable->StopEditSlider(pkCell); });
-}
-
-QPoint HandleCentre(QSlider *pkSlider)
-{
-    QStyleOptionSlider kOption;
-    kOption.initFrom(pkSlider);
-    kOption.orientation = pkSlider->orientation();
-    kOption.minimum = pkSlider->minimum();
-    kOption.maximum = pkSlider->maximum();
-    kOption.sliderPosition = pkSlider->sliderPosition();
-    kOption.sliderValue = pkSlider->value();
-    kOption.subControls = QStyle::SC_All;
-    return pkSlider->style()
-        ->subControlRect(QStyle::CC_Slider, &kOption, QStyle::SC_SliderHandle, pkSlider)
-        .center();
-}
-
-void MoveMouse(QWidget *pkWidget, const QPoint &kPos, Qt::MouseButtons eButtons = Qt::NoButton)
-{
-    QMouseEvent kEvent(QEvent::MouseMove, kPos, pkWidget->mapToGlobal(kPos), Qt::NoButton, eButtons,
-                       Qt::NoModifier);
-    QApplication::sendEvent(pkWidget, &kEvent);
 }
 
 } // namespace
@@ -333,19 +306,14 @@ void tst_QKdFKModifyTableManager::initManagerWithSample()
     }
 
     // Every channel of a section has its section's ranges from the sample file.
-    const Ranges kExpected[] = { { 0, 100, -50, 150 },
-                                 { 0, 100, 0, 100 },
-                                 { 0, 100, -100, 200 },
-                                 { -20, 100, -50, 150 },
-                                 { -100, 100, -200, 200 } };
+    const QVector<int> kExpected[] = { { 0, 100, -50, 150 },
+                                       { 0, 100, 0, 100 },
+                                       { 0, 100, -100, 200 },
+                                       { -20, 100, -50, 150 },
+                                       { -100, 100, -200, 200 } };
     for (int nSection = 0; nSection < 5; ++nSection) {
-        for (int nIndex = 0; nIndex < kSpans[nSection].nCount; ++nIndex) {
-            const Ranges kRanges = RangesOf(kCells.At(kSpans[nSection].nFirstID + nIndex));
-            QCOMPARE(kRanges.nMinimum, kExpected[nSection].nMinimum);
-            QCOMPARE(kRanges.nMaximum, kExpected[nSection].nMaximum);
-            QCOMPARE(kRanges.nSpinMinimum, kExpected[nSection].nSpinMinimum);
-            QCOMPARE(kRanges.nSpinMaximum, kExpected[nSection].nSpinMaximum);
-        }
+        for (int nIndex = 0; nIndex < kSpans[nSection].nCount; ++nIndex)
+            QCOMPARE(RangesOf(kCells.At(kSpans[nSection].nFirstID + nIndex)), kExpected[nSection]);
     }
 }
 
@@ -374,62 +342,50 @@ void tst_QKdFKModifyTableManager::badIniFiles_data()
     QTest::addColumn<int>("nValue");
 
     const QVector<int> kDefault({ -50, 100, -50, 100 });
-    QTest::newRow("missing file") << QByteArray() << false << 0 << kDefault << 0;
-    QTest::newRow("empty file") << QByteArray() << true << 127 << kDefault << 0;
-    QTest::newRow("only comments")
-        << QByteArray("; nothing here\n# nor here\n") << true << 5 << kDefault << 0;
-    QTest::newRow("complete") << CompleteIni("0, 60", "-10, 90") << true << 100
-                              << QVector<int>({ 0, 60, -10, 90 }) << 0;
+    const QVector<int> kFile({ 0, 60, -10, 90 });
+    const QByteArray kComplete = CompleteIni("0, 60", "-10, 90");
+    const auto row = [](const char *pcName, const QByteArray &kContent, int nID,
+                        const QVector<int> &kRanges, int nValue = 0, bool bWrite = true) {
+        QTest::newRow(pcName) << kContent << bWrite << nID << kRanges << nValue;
+    };
+    row("missing file", QByteArray(), 0, kDefault, 0, false);
+    row("empty file", QByteArray(), 127, kDefault);
+    row("only comments", "; nothing here\n# nor here\n", 5, kDefault);
+    row("complete", kComplete, 100, kFile);
 
-    QByteArray kNoSpin = CompleteIni("0, 60", "-10, 90");
+    QByteArray kNoSpin = kComplete;
     kNoSpin.truncate(kNoSpin.indexOf("[SpinBoxExtreme]"));
-    QTest::newRow("spin group missing")
-        << kNoSpin << true << 30 << QVector<int>({ 0, 60, -50, 100 }) << 0;
+    row("spin group missing", kNoSpin, 30, { 0, 60, -50, 100 });
 
-    QByteArray kNoMouth = CompleteIni("0, 60", "-10, 90");
+    QByteArray kNoMouth = kComplete;
     kNoMouth.replace("[MouthModifyString]", "[SomethingElse]");
-    QTest::newRow("section group missing") << kNoMouth << true << 30 << kDefault << 0;
-    QTest::newRow("section after it intact")
-        << kNoMouth << true << 64 << QVector<int>({ 0, 60, -10, 90 }) << 0;
+    row("section group missing", kNoMouth, 30, kDefault);
+    row("section after it intact", kNoMouth, 64, kFile);
 
-    QByteArray kFewKeys = CompleteIni("0, 60", "-10, 90");
+    QByteArray kFewKeys = kComplete;
     kFewKeys.replace("S0_07=channel\n", "");
-    QTest::newRow("fewer keys than channels") << kFewKeys << true << 7 << kDefault << 0;
-    QTest::newRow("fewer keys, others intact")
-        << kFewKeys << true << 6 << QVector<int>({ 0, 60, -10, 90 }) << 0;
+    row("fewer keys than channels", kFewKeys, 7, kDefault);
+    row("fewer keys, others intact", kFewKeys, 6, kFile);
 
-    QByteArray kMissingRange = CompleteIni("0, 60", "-10, 90");
+    QByteArray kMissingRange = kComplete;
     kMissingRange.replace("S2_03=0, 60\n", "");
-    QTest::newRow("range key missing")
-        << kMissingRange << true << 18 << QVector<int>({ -50, 100, -10, 90 }) << 0;
+    row("range key missing", kMissingRange, 18, { -50, 100, -10, 90 });
 
-    QTest::newRow("reversed extremes") << CompleteIni("100, 0", "150, -150") << true << 3
-                                       << QVector<int>({ 0, 100, -150, 150 }) << 0;
-    QTest::newRow("non-numeric extremes") << CompleteIni("abc, 20", "low, high") << true << 3
-                                          << QVector<int>({ 20, 100, 100, 100 }) << 100;
-    QTest::newRow("single-number extremes")
-        << CompleteIni("50", "70") << true << 3 << kDefault << 0;
+    row("reversed extremes", CompleteIni("100, 0", "150, -150"), 3, { 0, 100, -150, 150 });
+    row("non-numeric extremes", CompleteIni("abc, 20", "low, high"), 3, { 20, 100, 100, 100 }, 100);
+    row("single-number extremes", CompleteIni("50", "70"), 3, kDefault);
 
     // A key given twice counts once, and its last value holds.
-    QByteArray kDuplicate = CompleteIni("0, 60", "-10, 90");
+    QByteArray kDuplicate = kComplete;
     kDuplicate.replace("S0_01=channel\n", "S0_01=channel\nS0_01=again\n");
     kDuplicate.replace("S0_01=0, 60\n", "S0_01=0, 60\nS0_01=5, 55\n");
-    QTest::newRow("duplicate keys")
-        << kDuplicate << true << 1 << QVector<int>({ 5, 55, -10, 90 }) << 0;
+    row("duplicate keys", kDuplicate, 1, { 5, 55, -10, 90 });
+    row("group given twice", kComplete + "[SliderExtreme]\nS4_10=-5, 5\n", 74, { -5, 5, -10, 90 });
+    row("oversized file", kComplete + ";" + QByteArray(5 * 1024 * 1024, 'x') + "\n", 3, kDefault);
 
-    QByteArray kDuplicateGroup = CompleteIni("0, 60", "-10, 90");
-    kDuplicateGroup += "[SliderExtreme]\nS4_10=-5, 5\n";
-    QTest::newRow("group given twice")
-        << kDuplicateGroup << true << 74 << QVector<int>({ -5, 5, -10, 90 }) << 0;
-
-    QByteArray kOversized = CompleteIni("0, 60", "-10, 90");
-    kOversized += ";" + QByteArray(5 * 1024 * 1024, 'x') + "\n";
-    QTest::newRow("oversized file") << kOversized << true << 3 << kDefault << 0;
-
-    QByteArray kMalformed = CompleteIni("0, 60", "-10, 90");
+    QByteArray kMalformed = kComplete;
     kMalformed.replace("[EyeModifyString]", "[EyeModifyString\nnot a line\n=\n");
-    QTest::newRow("malformed lines")
-        << kMalformed << true << 0 << QVector<int>({ 0, 60, -10, 90 }) << 0;
+    row("malformed lines", kMalformed, 0, kFile);
 }
 
 void tst_QKdFKModifyTableManager::badIniFiles()
@@ -449,10 +405,7 @@ void tst_QKdFKModifyTableManager::badIniFiles()
     MadeCells kCells;
     QCOMPARE(kCells.Count(), 128);
 
-    const Ranges kCell = RangesOf(kCells.At(nCheckedID));
-    QCOMPARE(
-        QVector<int>({ kCell.nMinimum, kCell.nMaximum, kCell.nSpinMinimum, kCell.nSpinMaximum }),
-        kRanges);
+    QCOMPARE(RangesOf(kCells.At(nCheckedID)), kRanges);
     QCOMPARE(kCells.At(nCheckedID)->GetValue(), nValue);
 
     // The table stays usable: its forwarders still report.
@@ -539,12 +492,7 @@ void tst_QKdFKModifyTableManager::sliderDragReachesTable()
     pkCell->show();
     QVERIFY(QTest::qWaitForWindowExposed(pkCell));
     QSlider *pkSlider = pkCell->GetSlider()->UI()->qtHorizontalSlider;
-    const QPoint kStart = HandleCentre(pkSlider);
-    const QPoint kEnd = kStart + QPoint(pkSlider->width() / 3, 0);
-    QTest::mousePress(pkSlider, Qt::LeftButton, Qt::NoModifier, kStart);
-    MoveMouse(pkSlider, kStart + QPoint(pkSlider->width() / 6, 0), Qt::LeftButton);
-    MoveMouse(pkSlider, kEnd, Qt::LeftButton);
-    QTest::mouseRelease(pkSlider, Qt::LeftButton, Qt::NoModifier, kEnd);
+    ComboEditorTest::dragHandle(pkSlider, pkSlider->width() / 3);
 
     QVERIFY(pkCell->GetValue() > 0);
     QVERIFY(kRecorder.kEvents.size() >= 3);
@@ -647,12 +595,9 @@ void tst_QKdFKModifyTableManager::hoverTracking()
     const QPoint kBelowRows = kTable.visualRect(kModel.index(1, 0)).bottomLeft() + QPoint(5, 40);
     QVERIFY(!kTable.indexAt(kBelowRows).isValid());
 
-    MoveMouse(pkViewport, kBelowRows);
-    MoveMouse(pkViewport, kCell00);
-    MoveMouse(pkViewport, kCell00 + QPoint(2, 1));
-    MoveMouse(pkViewport, kCell10);
-    MoveMouse(pkViewport, kBelowRows);
-    MoveMouse(pkViewport, kBelowRows + QPoint(3, 3));
+    for (const QPoint &kPos : { kBelowRows, kCell00, kCell00 + QPoint(2, 1), kCell10, kBelowRows,
+                                kBelowRows + QPoint(3, 3) })
+        ComboEditorTest::moveHeld(pkViewport, kPos, Qt::NoButton);
 
     QCOMPARE(kRecorder.kEvents,
              QStringList({ "entered 0,0", "left 0,0", "entered 1,0", "left 1,0" }));

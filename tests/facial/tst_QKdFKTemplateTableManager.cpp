@@ -79,7 +79,6 @@ class tst_QKdFKTemplateTableManager : public QObject
     Q_OBJECT
 
 private slots:
-    void construction();
     void initManager();
     void sampleFolder();
     void naturalOrder();
@@ -101,20 +100,15 @@ private slots:
     void userPicksTemplate();
 };
 
-void tst_QKdFKTemplateTableManager::construction()
-{
-    QWidget kParent;
-    QKdFKTemplateTableManager *pkTable = new QKdFKTemplateTableManager(&kParent);
-    QCOMPARE(pkTable->parentWidget(), &kParent);
-    QCOMPARE(pkTable->GetLimitColNum(), 0);
-    QCOMPARE(pkTable->columnCount(), 0);
-    QCOMPARE(pkTable->rowCount(), 0);
-    QVERIFY(pkTable->styleSheet().isEmpty());
-}
-
 void tst_QKdFKTemplateTableManager::initManager()
 {
-    QKdFKTemplateTableManager kTable;
+    QWidget kParent;
+    QKdFKTemplateTableManager &kTable = *new QKdFKTemplateTableManager(&kParent);
+    QCOMPARE(kTable.parentWidget(), &kParent);
+    QCOMPARE(kTable.GetLimitColNum(), 0);
+    QCOMPARE(kTable.rowCount(), 0);
+    QVERIFY(kTable.styleSheet().isEmpty());
+
     QVERIFY(kTable.InitManager(4, 80, 90));
     QCOMPARE(kTable.GetLimitColNum(), 4);
     QCOMPARE(kTable.columnCount(), 4);

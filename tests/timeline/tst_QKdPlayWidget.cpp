@@ -4,6 +4,18 @@
 #include <QCloseEvent>
 #include <QtTest>
 
+namespace {
+
+QSize exportSize(QKdPlayWidget &play)
+{
+    int width = 0;
+    int height = 0;
+    play.GetExportSize(width, height);
+    return QSize(width, height);
+}
+
+} // namespace
+
 class tst_QKdPlayWidget : public QObject
 {
     Q_OBJECT
@@ -54,8 +66,7 @@ void tst_QKdPlayWidget::defaults()
     int width = 0;
     int height = 0;
     QCOMPARE(play.GetExportSize(width, height), Vela::Result(Vela::Result::Success));
-    QCOMPARE(width, 800);
-    QCOMPARE(height, 600);
+    QCOMPARE(QSize(width, height), QSize(800, 600));
     QVERIFY(play.IsLockRatio());
     QVERIFY(play.testAttribute(Qt::WA_SetCursor));
     QCOMPARE(play.cursor().shape(), Qt::ArrowCursor);
@@ -98,10 +109,7 @@ void tst_QKdPlayWidget::exportSizeChangesLayout()
     QCOMPARE(m_view->geometry(), QRect(100, 0, 800, 600));
     QCOMPARE(m_play->SetExportSize(1920, 1080), Vela::Result(Vela::Result::Success));
     QCOMPARE(m_view->geometry(), QRect(0, 19, 1000, 562));
-    int width = 0;
-    int height = 0;
-    m_play->GetExportSize(width, height);
-    QCOMPARE(QSize(width, height), QSize(1920, 1080));
+    QCOMPARE(exportSize(*m_play), QSize(1920, 1080));
 
     // The same size again lays nothing out.
     m_view->setGeometry(1, 2, 3, 4);
@@ -125,19 +133,14 @@ void tst_QKdPlayWidget::invalidExportSize()
     QFETCH(int, width);
     QFETCH(int, height);
     m_view->setGeometry(1, 2, 3, 4);
-    const Vela::Result result = m_play->SetExportSize(width, height);
-    QCOMPARE(result.code(), 0x80000003u);
-    int storedWidth = 0;
-    int storedHeight = 0;
-    m_play->GetExportSize(storedWidth, storedHeight);
-    QCOMPARE(QSize(storedWidth, storedHeight), QSize(800, 600));
+    QCOMPARE(m_play->SetExportSize(width, height).code(), 0x80000003u);
+    QCOMPARE(exportSize(*m_play), QSize(800, 600));
     QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
 }
 
 void tst_QKdPlayWidget::unlockedRatioFills()
 {
     m_play->SetLockRatio(false);
-    QVERIFY(!m_play->IsLockRatio());
     QCOMPARE(m_view->geometry(), QRect(0, 0, 1000, 600));
     m_play->resize(640, 700);
     QCOMPARE(m_view->geometry(), QRect(0, 0, 640, 700));
