@@ -2,42 +2,16 @@
 #define VELADROPTEST_H
 
 #include <QApplication>
-#include <QColor>
-#include <QDir>
-#include <QDragEnterEvent>
-#include <QDragMoveEvent>
 #include <QDropEvent>
-#include <QImage>
 #include <QList>
 #include <QMimeData>
-#include <QString>
 #include <QStringList>
-#include <QUrl>
 #include <QWidget>
 #include <QtTest>
 
-#include <memory>
-
-// Drag data and drag events as the window system delivers them for files dragged in from a file
-// manager.
+// Drag events as the window system delivers them for files dragged in from a file manager, and a
+// host interface for the drag-and-drop list and table. Drag data and one-shot drops: VelaTest.h.
 namespace VelaDropTest {
-
-inline std::unique_ptr<QMimeData> fileDrag(const QStringList &files)
-{
-    auto mimeData = std::make_unique<QMimeData>();
-    QList<QUrl> urls;
-    for (const QString &file : files)
-        urls << QUrl::fromLocalFile(file);
-    mimeData->setUrls(urls);
-    return mimeData;
-}
-
-inline std::unique_ptr<QMimeData> textDrag(const QString &text)
-{
-    auto mimeData = std::make_unique<QMimeData>();
-    mimeData->setText(text);
-    return mimeData;
-}
 
 // One drag over a drop target, delivered the way the window system delivers it: an enter, then
 // moves and a drop that QApplication routes to the widget that accepted the enter (they never
@@ -96,17 +70,6 @@ private:
     bool m_lastAccepted = false;
 };
 
-inline bool dragEnter(QWidget *target, const QPoint &pos, const QMimeData *mimeData)
-{
-    return DragSession(target, pos, mimeData).entered();
-}
-
-// Enters at pos and drops there; false when the enter was refused.
-inline bool dropAt(QWidget *target, const QPoint &pos, const QMimeData *mimeData)
-{
-    return DragSession(target, pos, mimeData).drop(pos);
-}
-
 // The offscreen platform answers every raise of a window with this warning: expecting it counts
 // the times a widget brought its window to the front (a missing one fails the test).
 inline void expectWindowRaised(int times)
@@ -148,17 +111,6 @@ public:
     QList<QList<QString>> files;
     Item *item = nullptr;
 };
-
-// Writes a solid-colour PNG and returns its path.
-inline QString writeImage(const QString &dir, const QString &name, const QSize &size,
-                          const QColor &color)
-{
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
-    const QString path = QDir(dir).filePath(name);
-    image.save(path, "PNG");
-    return path;
-}
 
 } // namespace VelaDropTest
 

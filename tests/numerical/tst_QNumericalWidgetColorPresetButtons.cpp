@@ -1,10 +1,9 @@
-#include "NumericalEditLog.h"
+#include "NumericalTestSupport.h"
 #include "QNumericalWidgetColorPresetButtons.h"
 #include "VelaTest.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSpacerItem>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QtTest>
@@ -67,24 +66,14 @@ void tst_QNumericalWidgetColorPresetButtons::createUi()
 
     auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
     QVERIFY(row);
-    QCOMPARE(row->spacing(), 10);
-    QCOMPARE(row->contentsMargins(), QMargins(0, 10, 0, 0));
     QCOMPARE(row->count(), 6);
     QCOMPARE(row->itemAt(0)->widget(), label);
-    QSpacerItem *spacer = row->itemAt(1)->spacerItem();
-    QVERIFY(spacer);
-    QCOMPARE(spacer->sizeHint(), QSize(5, 5));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
 
     const QColor colors[] = { QColor(238, 238, 238), QColor(246, 178, 107), QColor(234, 153, 153),
                               QColor(41, 41, 41) };
     for (int i = 0; i < 4; ++i) {
         auto *swatch = qobject_cast<QToolButton *>(row->itemAt(2 + i)->widget());
         QVERIFY(swatch);
-        QCOMPARE(swatch->parentWidget(), m_widget);
-        QCOMPARE(swatch->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-        QCOMPARE(swatch->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
         QCOMPARE(swatch->icon().availableSizes(), QList<QSize> { QSize(20, 20) });
         const QImage image = swatch->icon().pixmap(QSize(20, 20)).toImage();
         QCOMPARE(image.pixelColor(10, 10), colors[i]);
