@@ -38,7 +38,6 @@ private slots:
     void rowsAtWidths_data();
     void rowsAtWidths();
     void knownPositions();
-    void wideItemStaysAlone();
     void minimumAndSizeHint();
     void smartSpacingWithoutParent();
     void smartSpacingFromParent();
@@ -174,20 +173,18 @@ void tst_FlowLayout::knownPositions()
     // Placement follows the given rectangle's origin.
     layout->setGeometry(QRect(10, 20, 139, 100));
     QCOMPARE(a->geometry().topLeft(), QPoint(15, 25));
-}
 
-void tst_FlowLayout::wideItemStaysAlone()
-{
-    QWidget host;
-    auto *layout = new FlowLayout(&host, 0, 3, 3);
-    QWidget *wide = fixedWidget(&host, { 500, 10 });
-    QWidget *next = fixedWidget(&host, { 10, 10 });
-    layout->addWidget(wide);
-    layout->addWidget(next);
-    layout->setGeometry(QRect(0, 0, 100, 100));
+    // An item wider than the layout sits alone in its row.
+    QWidget other;
+    auto *wideLayout = new FlowLayout(&other, 0, 3, 3);
+    QWidget *wide = fixedWidget(&other, { 500, 10 });
+    QWidget *next = fixedWidget(&other, { 10, 10 });
+    wideLayout->addWidget(wide);
+    wideLayout->addWidget(next);
+    wideLayout->setGeometry(QRect(0, 0, 100, 100));
     QCOMPARE(wide->geometry(), QRect(0, 0, 500, 10));
     QCOMPARE(next->geometry(), QRect(0, 13, 10, 10));
-    QCOMPARE(layout->heightForWidth(100), 23);
+    QCOMPARE(wideLayout->heightForWidth(100), 23);
 }
 
 void tst_FlowLayout::minimumAndSizeHint()

@@ -39,6 +39,16 @@ static QSbsImageWidget *imageWidget(const QString &name)
     return image;
 }
 
+// Shows the group and clicks its title, as a user opens (or closes) it.
+static bool showAndClick(QGroupWidget &group)
+{
+    group.show();
+    if (!QTest::qWaitForWindowExposed(&group))
+        return false;
+    QTest::mouseClick(titleButton(group), Qt::LeftButton);
+    return true;
+}
+
 // The widgets of the group's numerical layout, in order.
 static QList<QWidget *> placed(QGroupWidget &group)
 {
@@ -149,8 +159,6 @@ void tst_QGroupWidget::clickToggles()
 void tst_QGroupWidget::lazyCreation()
 {
     QGroupWidget group(nullptr, QStringLiteral("Lazy"), false);
-    group.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&group));
     QStringList calls;
     QList<bool> waitCursor;
     for (int i = 0; i < 3; ++i) {
@@ -166,7 +174,7 @@ void tst_QGroupWidget::lazyCreation()
     QVERIFY(calls.isEmpty());
     QVERIFY(!group.HasSubWidget());
 
-    QTest::mouseClick(titleButton(group), Qt::LeftButton);
+    QVERIFY(showAndClick(group));
     QCOMPARE(calls, (QStringList { "0", "1", "2" }));
     QCOMPARE(waitCursor, (QList<bool> { true, true, true }));
     QVERIFY(!QApplication::overrideCursor());
@@ -194,9 +202,7 @@ void tst_QGroupWidget::creatorWhileOpen()
         nullptr);
     QCOMPARE(calls, 1);
     QVERIFY(group.HasSubWidget());
-    group.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&group));
-    QTest::mouseClick(titleButton(group), Qt::LeftButton);
+    QVERIFY(showAndClick(group));
     QTest::mouseClick(titleButton(group), Qt::LeftButton);
     QCOMPARE(calls, 1);
 }
@@ -210,9 +216,7 @@ void tst_QGroupWidget::placement()
     QSbsImageWidget *image3 = imageWidget(QStringLiteral("Mask"));
     for (QWidget *w : QList<QWidget *> { image1, image2, numerical, image3 })
         group.AddWidgetCreator([w]() { return w; }, []() { return true; });
-    group.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&group));
-    QTest::mouseClick(titleButton(group), Qt::LeftButton);
+    QVERIFY(showAndClick(group));
 
     const QList<QWidget *> widgets = placed(group);
     QCOMPARE(widgets.size(), 3);
@@ -257,9 +261,7 @@ void tst_QGroupWidget::badCreators()
     auto *shown = new PlainNumericalWidget;
     group.AddWidgetCreator([shown]() { return shown; }, nullptr);
     QVERIFY(group.HasVisibleChildWidget());
-    group.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&group));
-    QTest::mouseClick(titleButton(group), Qt::LeftButton);
+    QVERIFY(showAndClick(group));
     QCOMPARE(placed(group), QList<QWidget *> { shown });
     QVERIFY(shown->isVisible());
     // A group cannot hold itself or what holds it.
@@ -284,9 +286,7 @@ void tst_QGroupWidget::visibilityQueries()
     auto *visible = new PlainNumericalWidget;
     group.AddWidgetCreator([hidden]() { return hidden; }, []() { return false; });
     group.AddWidgetCreator([visible]() { return visible; }, []() { return true; });
-    group.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&group));
-    QTest::mouseClick(titleButton(group), Qt::LeftButton);
+    QVERIFY(showAndClick(group));
     QCOMPARE(placed(group), (QList<QWidget *> { hidden, visible }));
     QVERIFY(!hidden->isVisible());
     QVERIFY(visible->isVisible());
@@ -304,9 +304,7 @@ void tst_QGroupWidget::subGroups()
     QVERIFY(inner->isHidden());
     QVERIFY(outer.HasVisibleChildWidget());
 
-    outer.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&outer));
-    QTest::mouseClick(titleButton(outer), Qt::LeftButton);
+    QVERIFY(showAndClick(outer));
     QCOMPARE(placed(outer), (QList<QWidget *> { inner, emptyInner }));
     QVERIFY(inner->isVisible());
     QVERIFY(!emptyInner->isVisible());

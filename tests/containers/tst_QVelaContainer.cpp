@@ -105,7 +105,6 @@ private slots:
     void passOnFlag();
     void mapIsOnlyAsFreshAsLastInit();
     void deletedButtonsLeaveTheMap();
-    void styleSheetBackground();
 
 private:
     void record(QVelaContainer *container);
@@ -157,6 +156,11 @@ void tst_QVelaContainer::defaults()
     QVelaContainer container;
     QVERIFY(container.hasMouseTracking());
     QVERIFY(!container.setTransToolBtnState(QStringLiteral("a"), true));
+
+    // A style sheet's background is painted.
+    m_container->setStyleSheet(QStringLiteral("QVelaContainer { background: #1c1c1c; }"));
+    const QImage shot = m_container->grab().toImage();
+    QCOMPARE(shot.pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
 }
 
 void tst_QVelaContainer::buttonMapInNameOrder()
@@ -383,13 +387,6 @@ void tst_QVelaContainer::deletedButtonsLeaveTheMap()
     mouse.click(kOnlyB);
     QCOMPARE(m_events, QStringList({ "NoBtnClicked", "BtnClicked:b", "ChangeToolBtnState:b=on" }));
     VelaTest::mouseMove(m_container, kOnlyA, Qt::NoButton);
-}
-
-void tst_QVelaContainer::styleSheetBackground()
-{
-    m_container->setStyleSheet(QStringLiteral("QVelaContainer { background: #1c1c1c; }"));
-    const QImage shot = m_container->grab().toImage();
-    QCOMPARE(shot.pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
 }
 
 VELA_TEST_CLASS(tst_QVelaContainer)

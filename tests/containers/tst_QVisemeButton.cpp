@@ -1,5 +1,6 @@
 #include "QVisemeButton.h"
 #include "QVisemeCurveWidgetLite.h"
+#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QDrag>
@@ -44,15 +45,7 @@ void tst_QVisemeButton::cleanup()
 
 void tst_QVisemeButton::dragStartsAtTheStartDistance_data()
 {
-    const int distance = QApplication::startDragDistance();
-    QTest::addColumn<QPoint>("offset");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
-    QTest::newRow("one pixel short, diagonal")
-        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
-    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
-    QTest::newRow("exactly the distance, diagonal")
-        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
+    VelaDropTest::addStartDistanceRows();
 }
 
 void tst_QVisemeButton::dragStartsAtTheStartDistance()

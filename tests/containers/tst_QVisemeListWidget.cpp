@@ -1,5 +1,6 @@
 #include "QVisemeCurveWidgetLite.h"
 #include "QVisemeListWidget.h"
+#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QDrag>
@@ -47,15 +48,7 @@ void tst_QVisemeListWidget::cleanup()
 
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance_data()
 {
-    const int distance = QApplication::startDragDistance();
-    QTest::addColumn<QPoint>("offset");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("one pixel short") << QPoint(distance - 1, 0) << false;
-    QTest::newRow("one pixel short, diagonal")
-        << QPoint(distance / 2, -(distance - 1 - distance / 2)) << false;
-    QTest::newRow("exactly the distance") << QPoint(0, distance) << true;
-    QTest::newRow("exactly the distance, diagonal")
-        << QPoint(-(distance / 2), distance - distance / 2) << true;
+    VelaDropTest::addStartDistanceRows();
 }
 
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
@@ -82,9 +75,7 @@ void tst_QVisemeListWidget::payload()
     QVERIFY(data->hasFormat(QStringLiteral("application/x-visemelistitem")));
     QVERIFY(data->data(QStringLiteral("application/x-visemelistitem")).isEmpty());
     QCOMPARE(data->text(), QStringLiteral("OH"));
-    QCOMPARE(data->formats(),
-             QStringList(
-                 { QStringLiteral("application/x-visemelistitem"), QStringLiteral("text/plain") }));
+    QCOMPARE(data->formats(), QStringList({ "application/x-visemelistitem", "text/plain" }));
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
 }
 

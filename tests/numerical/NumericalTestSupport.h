@@ -6,14 +6,17 @@
 
 #include "QNumericalWidgetBase.h"
 
+#include <QLineEdit>
 #include <QList>
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <QVBoxLayout>
 #include <QtTest>
 
 #include <cmath>
 #include <initializer_list>
+#include <memory>
 
 namespace NumericalTest {
 
@@ -82,6 +85,33 @@ private:
         if (value)
             values << *value;
     }
+};
+
+// The window a widget is tested in: a line edit above it holds the focus, as when the user has
+// not touched the widget yet.
+class Panel
+{
+public:
+    explicit Panel(QWidget *widget)
+        : window(new QWidget)
+        , other(new QLineEdit)
+    {
+        auto *layout = new QVBoxLayout(window.get());
+        layout->addWidget(other);
+        layout->addWidget(widget);
+    }
+
+    bool show()
+    {
+        window->show();
+        if (!QTest::qWaitForWindowActive(window.get()))
+            return false;
+        other->setFocus();
+        return true;
+    }
+
+    std::unique_ptr<QWidget> window;
+    QLineEdit *other;
 };
 
 // The names of one user edit: a value report followed by the end of the edit.

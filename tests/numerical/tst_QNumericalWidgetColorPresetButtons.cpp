@@ -5,10 +5,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest>
-
-#include <memory>
 
 using NumericalTest::EditLog;
 
@@ -24,20 +20,17 @@ private slots:
     void click_data();
     void click();
     void pushesChangeNothing();
-    void setDesc();
 
 private:
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<NumericalTest::Panel> m_panel;
     QNumericalWidgetColorPresetButtons *m_widget = nullptr;
     QList<QToolButton *> m_swatches;
 };
 
 void tst_QNumericalWidgetColorPresetButtons::init()
 {
-    m_window.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_window.get());
     m_widget = new QNumericalWidgetColorPresetButtons;
-    layout->addWidget(m_widget);
+    m_panel.reset(new NumericalTest::Panel(m_widget));
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(2, 2, 2, 2);
     Lu::CDynamicWidgetDescBase desc;
@@ -47,13 +40,12 @@ void tst_QNumericalWidgetColorPresetButtons::init()
     QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
     m_swatches = m_widget->findChildren<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(m_swatches.size(), 4);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColorPresetButtons::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
     m_swatches.clear();
 }
 
@@ -95,7 +87,7 @@ void tst_QNumericalWidgetColorPresetButtons::click()
     EditLog log(m_widget);
     QTest::mouseClick(swatch, Qt::LeftButton);
     // A swatch reports its number only, never a value edit.
-    QCOMPARE(log.names, QStringList { QStringLiteral("ClickedButton %1").arg(preset) });
+    QCOMPARE(log.names, QStringList { "ClickedButton %1".arg(preset) });
     const float f = float(preset);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(f, f, f, f));
 
@@ -114,11 +106,8 @@ void tst_QNumericalWidgetColorPresetButtons::pushesChangeNothing()
     m_widget->UpdateInputValue(Vela::CVector4f(4, 4, 4, 4));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 3, 3, 3));
     QVERIFY(log.names.isEmpty());
-}
 
-void tst_QNumericalWidgetColorPresetButtons::setDesc()
-{
-    EditLog log(m_widget);
+    // Re-describing renames the caption only.
     Lu::CDynamicWidgetDescBase desc;
     desc.strName = L"Eyes";
     m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(), desc);

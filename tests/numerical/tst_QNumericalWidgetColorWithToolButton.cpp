@@ -7,10 +7,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest>
-
-#include <memory>
 
 using NumericalTest::EditLog;
 
@@ -52,10 +48,9 @@ private slots:
     void toolButtonClick();
     void dialogEdit();
     void pushesAreSilent();
-    void setDesc();
 
 private:
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<NumericalTest::Panel> m_panel;
     QNumericalWidgetColorWithToolButton *m_widget = nullptr;
     QColorButton *m_button = nullptr;
     QToolButton *m_action = nullptr;
@@ -63,10 +58,8 @@ private:
 
 void tst_QNumericalWidgetColorWithToolButton::init()
 {
-    m_window.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_window.get());
     m_widget = new QNumericalWidgetColorWithToolButton;
-    layout->addWidget(m_widget);
+    m_panel.reset(new NumericalTest::Panel(m_widget));
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f);
     QCOMPARE(m_widget->Initialize(var, describe(QStringLiteral("Base_Fill"))).code(), 0u);
@@ -74,13 +67,12 @@ void tst_QNumericalWidgetColorWithToolButton::init()
     m_action = actionButton(m_widget);
     QVERIFY(m_button);
     QVERIFY(m_action);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColorWithToolButton::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
 }
 
 void tst_QNumericalWidgetColorWithToolButton::splitName_data()
@@ -144,7 +136,7 @@ void tst_QNumericalWidgetColorWithToolButton::toolButtonClick()
 {
     EditLog log(m_widget);
     QTest::mouseClick(m_action, Qt::LeftButton);
-    QCOMPARE(log.names, QStringList { QStringLiteral("Clicked") });
+    QCOMPARE(log.names, QStringList { "Clicked" });
     QTest::mouseClick(m_action, Qt::LeftButton);
     QCOMPARE(log.names.size(), 2);
 }
@@ -170,9 +162,7 @@ void tst_QNumericalWidgetColorWithToolButton::dialogEdit()
     QCOMPARE(log.names, NumericalTest::oneEdit());
     NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(1, 0, 0, 1));
     NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(1, 0, 0, 1));
-    QCOMPARE(calls,
-             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
-                            QStringLiteral("accepted") }));
+    QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 }
 
 void tst_QNumericalWidgetColorWithToolButton::pushesAreSilent()
@@ -184,11 +174,8 @@ void tst_QNumericalWidgetColorWithToolButton::pushesAreSilent()
     QCOMPARE(m_button->GetColor(), QColor(Qt::yellow));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 1, 0, 1));
     QVERIFY(log.names.isEmpty());
-}
 
-void tst_QNumericalWidgetColorWithToolButton::setDesc()
-{
-    EditLog log(m_widget);
+    // Re-describing takes the new value and name, also silently.
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(0, 0, 1, 1);
     m_widget->SetDesc(var, describe(QStringLiteral("Hair_Randomize")));

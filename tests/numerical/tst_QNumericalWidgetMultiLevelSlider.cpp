@@ -6,10 +6,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMouseEvent>
-#include <QtTest>
-
-#include <cmath>
-#include <memory>
 
 using namespace NumericalTest;
 

@@ -5,11 +5,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QVBoxLayout>
-#include <QtTest>
-
-#include <memory>
 
 using NumericalTest::EditLog;
 
@@ -30,18 +25,15 @@ private slots:
     void setDescKeepsEntries();
 
 private:
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<NumericalTest::Panel> m_panel;
     QNumericalWidgetOutputSize *m_widget = nullptr;
     QComboBoxEx *m_combo = nullptr;
 };
 
 void tst_QNumericalWidgetOutputSize::init()
 {
-    m_window.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_window.get());
-    layout->addWidget(new QLineEdit);
     m_widget = new QNumericalWidgetOutputSize;
-    layout->addWidget(m_widget);
+    m_panel.reset(new NumericalTest::Panel(m_widget));
     EditLog log(m_widget);
     Lu::CDynamicWidgetVariableBase var;
     var.eType = Vela::DynamicVariable_Integer2;
@@ -55,13 +47,12 @@ void tst_QNumericalWidgetOutputSize::init()
     QVERIFY(log.names.isEmpty());
     m_combo = m_widget->findChild<QComboBoxEx *>();
     QVERIFY(m_combo);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetOutputSize::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
 }
 
 void tst_QNumericalWidgetOutputSize::createUi()
