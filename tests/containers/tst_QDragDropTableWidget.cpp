@@ -15,8 +15,7 @@ private slots:
     void init();
     void cleanup();
 
-    void noParentRefusesEveryDrag();
-    void noInterfaceAcceptsNothing();
+    void refusedWithoutInterfaceOrParent();
     void dragEnterAsksInterface_data();
     void dragEnterAsksInterface();
     void dropOffersFiles_data();
@@ -65,25 +64,7 @@ QPoint tst_QDragDropTableWidget::cellCenter(int row, int column) const
     return m_table->visualRect(m_table->model()->index(row, column)).center();
 }
 
-void tst_QDragDropTableWidget::noParentRefusesEveryDrag()
-{
-    QDragDropTableWidget table;
-    table.setAcceptDrops(true);
-    table.setRowCount(1);
-    table.setColumnCount(1);
-    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("Hero.fbx")));
-    table.resize(200, 200);
-    table.SetInterface(&m_interface);
-    table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
-
-    const auto mimeData = VelaTest::fileMime(m_files);
-    QVERIFY(!VelaTest::dragEnter(table.viewport(), QPoint(5, 5), mimeData.get()));
-    QVERIFY(!VelaTest::dragEnter(table.viewport(), QPoint(150, 150), mimeData.get()));
-    QVERIFY(m_interface.calls.isEmpty());
-}
-
-void tst_QDragDropTableWidget::noInterfaceAcceptsNothing()
+void tst_QDragDropTableWidget::refusedWithoutInterfaceOrParent()
 {
     VelaDropTest::expectWindowRaised(3);
     const auto mimeData = VelaTest::fileMime(m_files);
@@ -97,6 +78,22 @@ void tst_QDragDropTableWidget::noInterfaceAcceptsNothing()
     QVERIFY(!drag.drop(cellCenter(1, 0)));
     QCOMPARE(m_interface.calls, QStringList { "CanDragEnter" });
     QCOMPARE(m_table->item(1, 0)->text(), QStringLiteral("Villain.fbx"));
+
+    // A table without a parent refuses every drag, interface or not.
+    m_interface.calls.clear();
+    QDragDropTableWidget table;
+    table.setAcceptDrops(true);
+    table.setRowCount(1);
+    table.setColumnCount(1);
+    table.setItem(0, 0, new QTableWidgetItem(QStringLiteral("Hero.fbx")));
+    table.resize(200, 200);
+    table.SetInterface(&m_interface);
+    table.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&table));
+
+    QVERIFY(!VelaTest::dragEnter(table.viewport(), QPoint(5, 5), mimeData.get()));
+    QVERIFY(!VelaTest::dragEnter(table.viewport(), QPoint(150, 150), mimeData.get()));
+    QVERIFY(m_interface.calls.isEmpty());
 }
 
 void tst_QDragDropTableWidget::dragEnterAsksInterface_data()

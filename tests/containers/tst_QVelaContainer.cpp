@@ -92,7 +92,7 @@ private slots:
     void init();
     void cleanup();
     void defaults();
-    void buttonMapInNameOrder();
+    void buttonMap();
     void overlappingButtonsFirstNameWins();
     void clickToggles();
     void pressAndReleaseOnDifferentButtons();
@@ -103,7 +103,6 @@ private slots:
     void hiddenOrDisabledButtonsNeverTakeClicks();
     void programmaticState();
     void passOnFlag();
-    void mapIsOnlyAsFreshAsLastInit();
     void deletedButtonsLeaveTheMap();
 
 private:
@@ -163,7 +162,7 @@ void tst_QVelaContainer::defaults()
     QCOMPARE(shot.pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
 }
 
-void tst_QVelaContainer::buttonMapInNameOrder()
+void tst_QVelaContainer::buttonMap()
 {
     QList<QTransToolBtn *> buttons { m_b, m_b, m_b };
     m_container->GetQTransToolBtns(buttons);
@@ -174,6 +173,19 @@ void tst_QVelaContainer::buttonMapInNameOrder()
     m_container->InitBtnMap(false);
     m_container->GetQTransToolBtns(buttons);
     QCOMPARE(buttons, QList<QTransToolBtn *>({ second, m_b }));
+
+    // A button added later takes clicks only once the map is made again.
+    QTransToolBtn *late = addButton(m_container, QStringLiteral("c"), QRect(165, 5, 30, 30));
+    late->show();
+    const QPoint onLate(180, 20);
+    Mouse mouse(m_container);
+    mouse.click(onLate);
+    QVERIFY(!late->isChecked());
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked" }));
+
+    m_container->InitBtnMap(false);
+    mouse.click(onLate);
+    QVERIFY(late->isChecked());
 }
 
 void tst_QVelaContainer::overlappingButtonsFirstNameWins()
@@ -221,7 +233,7 @@ void tst_QVelaContainer::pressAndReleaseOnDifferentButtons()
     // Nor is a release on A after a press over nothing.
     mouse.press(kNothing);
     mouse.release(kOnlyA);
-    QCOMPARE(m_events, QStringList(3, "NoBtnClicked"));
+    QCOMPARE(m_events, QStringList({ "NoBtnClicked", "NoBtnClicked", "NoBtnClicked" }));
     QVERIFY(!m_a->isChecked());
     QVERIFY(!m_b->isChecked());
 
@@ -352,21 +364,6 @@ void tst_QVelaContainer::passOnFlag()
     QCOMPARE(m_container->presses, 2);
     QTest::mouseRelease(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
     QVERIFY(m_a->isChecked()); // still handled first
-}
-
-void tst_QVelaContainer::mapIsOnlyAsFreshAsLastInit()
-{
-    QTransToolBtn *late = addButton(m_container, QStringLiteral("c"), QRect(165, 5, 30, 30));
-    late->show();
-    const QPoint onLate(180, 20);
-    Mouse mouse(m_container);
-    mouse.click(onLate);
-    QVERIFY(!late->isChecked());
-    QCOMPARE(m_events, QStringList({ "NoBtnClicked" }));
-
-    m_container->InitBtnMap(false);
-    mouse.click(onLate);
-    QVERIFY(late->isChecked());
 }
 
 void tst_QVelaContainer::deletedButtonsLeaveTheMap()

@@ -87,7 +87,7 @@ void tst_QNumericalWidgetColorPresetButtons::click()
     EditLog log(m_widget);
     QTest::mouseClick(swatch, Qt::LeftButton);
     // A swatch reports its number only, never a value edit.
-    QCOMPARE(log.names, QStringList { "ClickedButton %1".arg(preset) });
+    QCOMPARE(log.names, QStringList { QStringLiteral("ClickedButton %1").arg(preset) });
     const float f = float(preset);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(f, f, f, f));
 

@@ -33,12 +33,10 @@ private slots:
     void typeIntoSpinBox();
     void labelDoubleClick_data();
     void labelDoubleClick();
-    void pushedValuesAreSilent();
+    void pushedValuesAndDecimals();
     void nonNumericTypes_data();
     void nonNumericTypes();
-    void setDecimals();
-    void setDescReappliesToSameCount();
-    void setDescWithOtherCountAddsEditors();
+    void setDesc();
     void destroyWhileTyping();
 
 private:
@@ -357,7 +355,7 @@ void tst_QNumericalWidgetSlider::labelDoubleClick()
              resets ? QStringLiteral("UneditedWidget") : QStringLiteral("EditedWidget"));
 }
 
-void tst_QNumericalWidgetSlider::pushedValuesAreSilent()
+void tst_QNumericalWidgetSlider::pushedValuesAndDecimals()
 {
     QVERIFY(build(1, description(L"Offset", 0.0f, 1.0f, { 0.2f, 0.4f })));
     EditLog log(m_widget);
@@ -369,6 +367,21 @@ void tst_QNumericalWidgetSlider::pushedValuesAreSilent()
     m_widget->SetValue(Vela::CVector4f(5, -5, 0, 0));
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(1, 0, 0, 0));
     QVERIFY(log.entries.isEmpty());
+
+    // New decimals keep the range and rescale the slider.
+    m_widget->SetDecimals(3);
+    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
+        QCOMPARE(editor->Decimals(), 3);
+        QCOMPARE(editor->Maximum(), 1.0);
+        QCOMPARE(editor->UI()->qtHorizontalSlider->maximum(), 1000);
+    }
+
+    // Integer inputs keep their whole numbers.
+    QNumericalWidgetSlider integer;
+    QVERIFY(integer.Initialize(variable(4), description(L"Count", 0.0f, 20.0f, { 5 })).succeeded());
+    integer.SetDecimals(3);
+    QCOMPARE(integer.GetComboSpins().first()->Decimals(), 0);
+    QCOMPARE(integer.GetComboSpins().first()->UI()->qtHorizontalSlider->maximum(), 20);
 }
 
 void tst_QNumericalWidgetSlider::nonNumericTypes_data()
@@ -396,25 +409,7 @@ void tst_QNumericalWidgetSlider::nonNumericTypes()
     QVERIFY(log.entries.isEmpty());
 }
 
-void tst_QNumericalWidgetSlider::setDecimals()
-{
-    QVERIFY(build(1, description(L"Offset", 0.0f, 2.0f, { 0.5f, 1.25f })));
-    m_widget->SetDecimals(3);
-    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
-        QCOMPARE(editor->Decimals(), 3);
-        QCOMPARE(editor->Maximum(), 2.0);
-        QCOMPARE(editor->UI()->qtHorizontalSlider->maximum(), 2000);
-    }
-
-    // Integer inputs keep their whole numbers.
-    QNumericalWidgetSlider integer;
-    QVERIFY(integer.Initialize(variable(4), description(L"Count", 0.0f, 20.0f, { 5 })).succeeded());
-    integer.SetDecimals(3);
-    QCOMPARE(integer.GetComboSpins().first()->Decimals(), 0);
-    QCOMPARE(integer.GetComboSpins().first()->UI()->qtHorizontalSlider->maximum(), 20);
-}
-
-void tst_QNumericalWidgetSlider::setDescReappliesToSameCount()
+void tst_QNumericalWidgetSlider::setDesc()
 {
     QVERIFY(build(0, description(L"Height", 0.0f, 1.0f, { 0.5f })));
     QComboDoubleSpinBox *first = editor();
@@ -426,15 +421,12 @@ void tst_QNumericalWidgetSlider::setDescReappliesToSameCount()
     QCOMPARE(first->Value(), 3.0);
     QCOMPARE(first->DefaultValue(), 3.0);
     QCOMPARE(first->UI()->qtHorizontalSlider->pageStep(), 80);
-}
 
-void tst_QNumericalWidgetSlider::setDescWithOtherCountAddsEditors()
-{
-    QVERIFY(build(0, description(L"Height", 0.0f, 1.0f, { 0.5f })));
     m_widget->SetDesc(variable(1), description(L"Size", 0.0f, 1.0f, { 0.1f, 0.2f }));
-    // The old editor stays first; the new ones follow it in a new group.
+    // Another count of components: the old editor stays first; the new ones follow it in a
+    // new group.
     QCOMPARE(m_widget->GetComboSpins().size(), 3);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.5f, 0.1f, 0.2f, 0));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(3.0f, 0.1f, 0.2f, 0));
     QVERIFY(group());
 
     // Each editor still reports once per change.
