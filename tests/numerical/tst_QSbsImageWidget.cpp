@@ -274,7 +274,6 @@ void tst_QSbsImageWidget::selectedChannel_data()
     QTest::newRow("first extern by position") << 11 << 11 << 11;
     QTest::newRow("second extern by position") << 12 << 12 << 11;
     QTest::newRow("custom") << 99998 << 13 << 99998;
-    QTest::newRow("none") << 99999 << 14 << 99999;
 }
 
 void tst_QSbsImageWidget::selectedChannel()
@@ -307,7 +306,6 @@ void tst_QSbsImageWidget::previewMouse()
     QCOMPARE(log.lines, QStringList { "Hover" });
     log.lines.clear();
     QTest::mouseDClick(preview, Qt::LeftButton);
-    QVERIFY(log.lines.contains(QStringLiteral("OpenDialog 4711")));
     QCOMPARE(log.lines.count(QStringLiteral("OpenDialog 4711")), 1);
     log.lines.clear();
     QEvent enter(QEvent::Enter);
