@@ -2,42 +2,16 @@
 #define VELADROPTEST_H
 
 #include <QApplication>
-#include <QColor>
-#include <QDir>
-#include <QDragEnterEvent>
-#include <QDragMoveEvent>
 #include <QDropEvent>
-#include <QImage>
 #include <QList>
 #include <QMimeData>
-#include <QString>
 #include <QStringList>
-#include <QUrl>
 #include <QWidget>
 #include <QtTest>
 
-#include <memory>
-
-// Drag data and drag events as the window system delivers them for files dragged in from a file
-// manager.
+// Drag events as the window system delivers them for files dragged in from a file manager, and a
+// host interface for the drag-and-drop list and table. Drag data and one-shot drops: VelaTest.h.
 namespace VelaDropTest {
-
-inline std::unique_ptr<QMimeData> fileDrag(const QStringList &files)
-{
-    auto mimeData = std::make_unique<QMimeData>();
-    QList<QUrl> urls;
-    for (const QString &file : files)
-        urls << QUrl::fromLocalFile(file);
-    mimeData->setUrls(urls);
-    return mimeData;
-}
-
-inline std::unique_ptr<QMimeData> textDrag(const QString &text)
-{
-    auto mimeData = std::make_unique<QMimeData>();
-    mimeData->setText(text);
-    return mimeData;
-}
 
 // One drag over a drop target, delivered the way the window system delivers it: an enter, then
 // moves and a drop that QApplication routes to the widget that accepted the enter (they never
@@ -96,15 +70,19 @@ private:
     bool m_lastAccepted = false;
 };
 
-inline bool dragEnter(QWidget *target, const QPoint &pos, const QMimeData *mimeData)
+// Rows of pointer offsets from a press, with whether a drag starts there: exactly at the
+// start-drag distance, straight or diagonal, and one pixel short of it.
+inline void addStartDistanceRows()
 {
-    return DragSession(target, pos, mimeData).entered();
-}
-
-// Enters at pos and drops there; false when the enter was refused.
-inline bool dropAt(QWidget *target, const QPoint &pos, const QMimeData *mimeData)
-{
-    return DragSession(target, pos, mimeData).drop(pos);
+    const int distance = QApplication::startDragDistance();
+    QTest::addColumn<QPoint>("offset");
+    QTest::addColumn<bool>("starts");
+    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
+    QTest::newRow("one pixel short, diagonal")
+        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
+    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
+    QTest::newRow("exactly the distance, diagonal")
+        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
 }
 
 // The offscreen platform answers every raise of a window with this warning: expecting it counts
@@ -148,17 +126,6 @@ public:
     QList<QList<QString>> files;
     Item *item = nullptr;
 };
-
-// Writes a solid-colour PNG and returns its path.
-inline QString writeImage(const QString &dir, const QString &name, const QSize &size,
-                          const QColor &color)
-{
-    QImage image(size, QImage::Format_ARGB32);
-    image.fill(color);
-    const QString path = QDir(dir).filePath(name);
-    image.save(path, "PNG");
-    return path;
-}
 
 } // namespace VelaDropTest
 

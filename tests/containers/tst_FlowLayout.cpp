@@ -38,25 +38,20 @@ private slots:
     void rowsAtWidths_data();
     void rowsAtWidths();
     void knownPositions();
-    void wideItemStaysAlone();
     void minimumAndSizeHint();
     void smartSpacingWithoutParent();
-    void smartSpacingFromParentWidget();
-    void smartSpacingFromParentLayout();
+    void smartSpacingFromParent();
     void reflowsWithWidget();
 };
 
 void tst_FlowLayout::emptyLayout()
 {
     FlowLayout layout(7, 4, 6);
-    QCOMPARE(layout.count(), 0);
     QCOMPARE(layout.heightForWidth(300), 14);
-    QCOMPARE(layout.heightForWidth(0), 14);
     QCOMPARE(layout.minimumSize(), QSize(14, 14));
     QCOMPARE(layout.sizeHint(), QSize(14, 14));
     QVERIFY(layout.hasHeightForWidth());
     QCOMPARE(layout.expandingDirections(), Qt::Orientations());
-    QCOMPARE(layout.contentsMargins(), QMargins(7, 7, 7, 7));
 }
 
 void tst_FlowLayout::itemAccess()
@@ -67,14 +62,11 @@ void tst_FlowLayout::itemAccess()
     auto *b = new CountedItem(20, 10, &deleted);
     layout.addItem(a);
     layout.addItem(b);
-    QCOMPARE(layout.count(), 2);
-    QCOMPARE(layout.itemAt(0), a);
     QCOMPARE(layout.itemAt(1), b);
     QVERIFY(!layout.itemAt(-1));
     QVERIFY(!layout.itemAt(2));
     QVERIFY(!layout.takeAt(-1));
-    QVERIFY(!layout.takeAt(layout.count()));
-    QCOMPARE(layout.count(), 2);
+    QVERIFY(!layout.takeAt(2));
     QCOMPARE(layout.takeAt(0), a);
     QCOMPARE(layout.count(), 1);
     QCOMPARE(layout.itemAt(0), b);
@@ -104,13 +96,14 @@ void tst_FlowLayout::destructorDeletesItems()
 void tst_FlowLayout::rowsAtWidths_data()
 {
     QTest::addColumn<int>("width");
-    for (int width : { 1, 30, 61, 62, 100, 137, 200, 333, 1000 })
+    for (int width : { 1, 61, 62, 137, 333, 1000 })
         QTest::addRow("%d", width) << width;
 }
 
 // Whatever the width: reading order is kept, no two items overlap, a row breaks only where the
-// next item would cross the right edge, rows are spaced by the tallest item plus the vertical
-// spacing, and heightForWidth is the height the placement uses.
+// next item would cross the right edge (an item wider than the row sits alone in it), rows are
+// spaced by the tallest item plus the vertical spacing, and heightForWidth is the height the
+// placement uses.
 void tst_FlowLayout::rowsAtWidths()
 {
     QFETCH(int, width);
@@ -157,6 +150,7 @@ void tst_FlowLayout::rowsAtWidths()
     QCOMPARE(host.heightForWidth(width), layout->heightForWidth(width));
 }
 
+// Known positions, placed in a rectangle away from the origin (rowsAtWidths places at (0, 0)).
 void tst_FlowLayout::knownPositions()
 {
     QWidget host;
@@ -166,35 +160,12 @@ void tst_FlowLayout::knownPositions()
     QWidget *c = fixedWidget(&host, { 40, 20 });
     for (QWidget *w : { a, b, c })
         layout->addWidget(w);
-    // Effective area 5..94: a and b fit in one row (5..44, 49..88), c wraps below the taller b.
-    layout->setGeometry(QRect(0, 0, 100, 100));
-    QCOMPARE(a->geometry(), QRect(5, 5, 40, 20));
-    QCOMPARE(b->geometry(), QRect(49, 5, 40, 30));
-    QCOMPARE(c->geometry(), QRect(5, 41, 40, 20));
+    // Effective area 15..104: a and b fit in one row, c wraps below the taller b.
+    layout->setGeometry(QRect(10, 20, 100, 100));
+    QCOMPARE(a->geometry(), QRect(15, 25, 40, 20));
+    QCOMPARE(b->geometry(), QRect(59, 25, 40, 30));
+    QCOMPARE(c->geometry(), QRect(15, 61, 40, 20));
     QCOMPARE(layout->heightForWidth(100), 66);
-    // Wide enough for all three on one row.
-    layout->setGeometry(QRect(0, 0, 139, 100));
-    QCOMPARE(c->geometry(), QRect(93, 5, 40, 20));
-    QCOMPARE(layout->heightForWidth(139), 40);
-    // One pixel less and c crosses the right edge.
-    QCOMPARE(layout->heightForWidth(138), 66);
-    // Placement follows the given rectangle's origin.
-    layout->setGeometry(QRect(10, 20, 139, 100));
-    QCOMPARE(a->geometry().topLeft(), QPoint(15, 25));
-}
-
-void tst_FlowLayout::wideItemStaysAlone()
-{
-    QWidget host;
-    auto *layout = new FlowLayout(&host, 0, 3, 3);
-    QWidget *wide = fixedWidget(&host, { 500, 10 });
-    QWidget *next = fixedWidget(&host, { 10, 10 });
-    layout->addWidget(wide);
-    layout->addWidget(next);
-    layout->setGeometry(QRect(0, 0, 100, 100));
-    QCOMPARE(wide->geometry(), QRect(0, 0, 500, 10));
-    QCOMPARE(next->geometry(), QRect(0, 13, 10, 10));
-    QCOMPARE(layout->heightForWidth(100), 23);
 }
 
 void tst_FlowLayout::minimumAndSizeHint()
@@ -216,7 +187,6 @@ void tst_FlowLayout::smartSpacingWithoutParent()
     QWidget host;
     FlowLayout layout(0, -1, -1);
     QCOMPARE(layout.horizontalSpacing(), -1);
-    QCOMPARE(layout.verticalSpacing(), -1);
     QWidget *a = fixedWidget(&host, { 20, 20 });
     QWidget *b = fixedWidget(&host, { 20, 20 });
     QWidget *c = fixedWidget(&host, { 20, 20 });
@@ -233,7 +203,7 @@ void tst_FlowLayout::smartSpacingWithoutParent()
     QCOMPARE(c->geometry().topLeft(), QPoint(0, 20 + v));
 }
 
-void tst_FlowLayout::smartSpacingFromParentWidget()
+void tst_FlowLayout::smartSpacingFromParent()
 {
     QWidget host;
     auto *layout = new FlowLayout(&host, 0, -1, -1);
@@ -245,12 +215,10 @@ void tst_FlowLayout::smartSpacingFromParentWidget()
     FlowLayout fixed(&host, 0, 0, 9);
     QCOMPARE(fixed.horizontalSpacing(), 0);
     QCOMPARE(fixed.verticalSpacing(), 9);
-}
 
-void tst_FlowLayout::smartSpacingFromParentLayout()
-{
-    QWidget host;
-    auto *outer = new QVBoxLayout(&host);
+    // In a parent layout: that layout's spacing.
+    QWidget other;
+    auto *outer = new QVBoxLayout(&other);
     outer->setSpacing(11);
     auto *flow = new FlowLayout(0, -1, -1);
     outer->addLayout(flow);

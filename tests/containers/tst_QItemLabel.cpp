@@ -1,5 +1,4 @@
 #include "QItemLabel.h"
-#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QSignalSpy>
@@ -34,20 +33,14 @@ private slots:
 
     void defaults();
     void clickSelectsOnce();
-    void anyButtonSelects();
-    void setSelectedSignalsChangesOnly();
     void selectedFrameGeometry();
-    void thickFrameGeometry();
     void hoverFrameAndSelectionWins();
     void noFrameWithoutPixmapOrWhenDisabled();
     void doubleClickLoadsChosenImage();
-    void doubleClickUsesThumbnailFunctor();
     void doubleClickWithoutPath();
-    void rightDoubleClick();
     void dragEnterFilter_data();
     void dragEnterFilter();
     void dropLoadsImage();
-    void dropOfUnreadableFileKeepsPicture();
 
 private:
     QItemLabel *m_label = nullptr;
@@ -102,36 +95,30 @@ void tst_QItemLabel::clickSelectsOnce()
 {
     QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
     QCOMPARE(m_label->GetSelected(), true);
-    QCOMPARE(m_events,
-             QStringList({ QStringLiteral("SelectedChanged"), QStringLiteral("clicked") }));
+    QCOMPARE(m_events, QStringList({ "SelectedChanged", "clicked" }));
 
     m_events.clear();
     QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
     QCOMPARE(m_label->GetSelected(), true);
-    QCOMPARE(m_events, QStringList { QStringLiteral("clicked") });
-}
+    QCOMPARE(m_events, QStringList { "clicked" });
 
-void tst_QItemLabel::anyButtonSelects()
-{
+    // Any button selects, on the press.
+    m_label->SetSelected(false);
+    m_events.clear();
     QTest::mousePress(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
     QCOMPARE(m_label->GetSelected(), true);
     QTest::mouseRelease(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
     QTest::mouseClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(10, 10));
-    QCOMPARE(m_events,
-             QStringList({ QStringLiteral("SelectedChanged"), QStringLiteral("clicked"),
-                           QStringLiteral("clicked") }));
-}
+    QCOMPARE(m_events, QStringList({ "SelectedChanged", "clicked", "clicked" }));
 
-void tst_QItemLabel::setSelectedSignalsChangesOnly()
-{
+    // SetSelected signals changes only; a press never deselects, but the host may.
+    m_events.clear();
     m_label->SetSelected(false);
-    QVERIFY(m_events.isEmpty());
+    m_label->SetSelected(false);
     m_label->SetSelected(true);
     m_label->SetSelected(true);
     m_label->SetSelected(false);
-    QCOMPARE(m_events,
-             QStringList({ QStringLiteral("SelectedChanged"), QStringLiteral("SelectedChanged") }));
-    // A press never deselects, but the host may.
+    QCOMPARE(m_events, QStringList({ "SelectedChanged", "SelectedChanged", "SelectedChanged" }));
     QCOMPARE(m_label->GetSelected(), false);
 }
 
@@ -145,34 +132,26 @@ void tst_QItemLabel::selectedFrameGeometry()
     // Width 0: outer and middle both trace (0, 0, 99, 79), the middle drawn last.
     QCOMPARE(image.pixelColor(0, 0), middle);
     QCOMPARE(image.pixelColor(99, 79), middle);
-    QCOMPARE(image.pixelColor(50, 0), middle);
-    QCOMPARE(image.pixelColor(0, 40), middle);
     QCOMPARE(image.pixelColor(1, 1), kPicture);
     // The inner line traces (2, 2, 95, 75).
     QCOMPARE(image.pixelColor(2, 2), inner);
     QCOMPARE(image.pixelColor(97, 77), inner);
-    QCOMPARE(image.pixelColor(50, 2), inner);
-    QCOMPARE(image.pixelColor(97, 40), inner);
     QCOMPARE(image.pixelColor(3, 3), kPicture);
     QCOMPARE(image.pixelColor(98, 78), kPicture);
-    QCOMPARE(image.pixelColor(50, 40), kPicture);
-}
 
-void tst_QItemLabel::thickFrameGeometry()
-{
+    // Wider lines, in the colours set.
     m_label->SetLineWidth(2.0);
     m_label->SetSelectOuterLineColor(Qt::red);
     m_label->SetSelectMiddleLineColor(Qt::green);
     m_label->SetSelectInnerLineColor(Qt::yellow);
-    m_label->SetSelected(true);
-    const QImage image = m_label->grab().toImage();
+    const QImage thick = m_label->grab().toImage();
 
-    QCOMPARE(image.pixelColor(0, 40), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(2, 40), QColor(Qt::green)); // (2, 2, 95, 75)
-    QCOMPARE(image.pixelColor(97, 77), QColor(Qt::green));
-    QCOMPARE(image.pixelColor(4, 40), QColor(Qt::yellow)); // (4, 4, 91, 71)
-    QCOMPARE(image.pixelColor(95, 75), QColor(Qt::yellow));
-    QCOMPARE(image.pixelColor(5, 40), kPicture);
+    QCOMPARE(thick.pixelColor(0, 40), QColor(Qt::red));
+    QCOMPARE(thick.pixelColor(2, 40), QColor(Qt::green)); // (2, 2, 95, 75)
+    QCOMPARE(thick.pixelColor(97, 77), QColor(Qt::green));
+    QCOMPARE(thick.pixelColor(4, 40), QColor(Qt::yellow)); // (4, 4, 91, 71)
+    QCOMPARE(thick.pixelColor(95, 75), QColor(Qt::yellow));
+    QCOMPARE(thick.pixelColor(5, 40), kPicture);
 }
 
 void tst_QItemLabel::hoverFrameAndSelectionWins()
@@ -210,8 +189,8 @@ void tst_QItemLabel::noFrameWithoutPixmapOrWhenDisabled()
 
 void tst_QItemLabel::doubleClickLoadsChosenImage()
 {
-    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
-                                                  QSize(100, 80), Qt::darkGreen);
+    const QString path = VelaTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
+                                              Qt::darkGreen, QSize(100, 80));
     int asked = 0;
     m_label->SetGetOpenFileNameFunctor([&] {
         ++asked;
@@ -230,12 +209,8 @@ void tst_QItemLabel::doubleClickLoadsChosenImage()
     m_label->OnMouseDoubleClicked();
     QVERIFY(m_label->pixmap(Qt::ReturnByValue).isNull());
     QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + missing);
-}
 
-void tst_QItemLabel::doubleClickUsesThumbnailFunctor()
-{
-    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
-                                                  QSize(100, 80), Qt::darkGreen);
+    // A thumbnail functor makes the picture instead.
     QStringList thumbnailsFor;
     m_label->SetGetOpenFileNameFunctor([&] { return path; });
     m_label->SetSpecialThumbnailFunctor([&](const QString &file) {
@@ -252,26 +227,24 @@ void tst_QItemLabel::doubleClickWithoutPath()
 {
     // No functor, then a cancelled dialog: nothing is loaded.
     QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    m_label->SetGetOpenFileNameFunctor([] { return QString(); });
-    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
-    QVERIFY(!m_events.join(QLatin1Char(' ')).contains(QLatin1String("PreImageLoaded")));
-}
-
-void tst_QItemLabel::rightDoubleClick()
-{
-    QList<Qt::MouseButton> buttons;
-    connect(m_label, &QItemLabel::RightDoubleClicked, this,
-            [&](QMouseEvent *event) { buttons << event->button(); });
     int asked = 0;
     m_label->SetGetOpenFileNameFunctor([&] {
         ++asked;
         return QString();
     });
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(asked, 1);
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
+    QVERIFY(!m_events.join(QLatin1Char(' ')).contains(QLatin1String("PreImageLoaded")));
+
+    // The right button is reported instead; the others do nothing.
+    QList<Qt::MouseButton> buttons;
+    connect(m_label, &QItemLabel::RightDoubleClicked, this,
+            [&](QMouseEvent *event) { buttons << event->button(); });
     QTest::mouseDClick(m_label, Qt::RightButton, Qt::NoModifier, QPoint(50, 40));
     QTest::mouseDClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(50, 40));
     QCOMPARE(buttons, QList<Qt::MouseButton> { Qt::RightButton });
-    QCOMPARE(asked, 0);
+    QCOMPARE(asked, 1);
 }
 
 void tst_QItemLabel::dragEnterFilter_data()
@@ -288,8 +261,6 @@ void tst_QItemLabel::dragEnterFilter_data()
     QTest::newRow("part of a listed suffix") << filter << QStringList { "/tmp/a.pn" } << true;
     QTest::newRow("two files") << filter << QStringList { "/tmp/a.png", "/tmp/b.png" } << false;
     QTest::newRow("empty filter") << QString() << QStringList { "/tmp/a.bmp" } << true;
-    QTest::newRow("empty filter, two files")
-        << QString() << QStringList { "/tmp/a.png", "/tmp/b.png" } << false;
 }
 
 void tst_QItemLabel::dragEnterFilter()
@@ -298,11 +269,12 @@ void tst_QItemLabel::dragEnterFilter()
     QFETCH(QStringList, files);
     QFETCH(bool, accepted);
     m_label->SetFileFilter(filter);
-    const auto mimeData = VelaDropTest::fileDrag(files);
-    QCOMPARE(VelaDropTest::dragEnter(m_label, QPoint(50, 40), mimeData.get()), accepted);
+    const auto mimeData = VelaTest::fileMime(files);
+    QCOMPARE(VelaTest::dragEnter(m_label, QPoint(50, 40), mimeData.get()), accepted);
 
-    const auto text = VelaDropTest::textDrag(files.first());
-    QVERIFY(!VelaDropTest::dragEnter(m_label, QPoint(50, 40), text.get()));
+    QMimeData text;
+    text.setText(files.first());
+    QVERIFY(!VelaTest::dragEnter(m_label, QPoint(50, 40), &text));
 }
 
 void tst_QItemLabel::dropLoadsImage()
@@ -314,29 +286,24 @@ void tst_QItemLabel::dropLoadsImage()
         return QPixmap();
     });
     m_label->SetFileFilter(QStringLiteral("png"));
-    const QString path = VelaDropTest::writeImage(m_dir.path(), QStringLiteral("bark.png"),
-                                                  QSize(64, 64), Qt::darkRed);
-    const auto mimeData = VelaDropTest::fileDrag({ path });
-    QVERIFY(VelaDropTest::dropAt(m_label, QPoint(50, 40), mimeData.get()));
+    const QString path =
+        VelaTest::writeImage(m_dir.path(), QStringLiteral("bark.png"), Qt::darkRed, QSize(64, 64));
+    const auto mimeData = VelaTest::fileMime({ path });
+    QVERIFY(VelaTest::dropAt(m_label, QPoint(50, 40), mimeData.get()));
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(64, 64));
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5), QColor(Qt::darkRed));
-    QCOMPARE(m_events, QStringList { QStringLiteral("PreImageLoaded ") + path });
+    QCOMPARE(m_events, QStringList { "PreImageLoaded " + path });
     QVERIFY(!thumbnailAsked);
     QVERIFY(!QApplication::overrideCursor());
-}
 
-void tst_QItemLabel::dropOfUnreadableFileKeepsPicture()
-{
-    const QString path = m_dir.filePath(QStringLiteral("broken.png"));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write("not a picture");
-    file.close();
+    // A file that cannot be read keeps the picture.
+    const QString broken =
+        VelaTest::writeFile(m_dir.path(), QStringLiteral("broken.png"), "not a picture");
 
-    const auto mimeData = VelaDropTest::fileDrag({ path });
-    VelaDropTest::dropAt(m_label, QPoint(50, 40), mimeData.get());
-    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
-    QCOMPARE(m_events, QStringList { QStringLiteral("PreImageLoaded ") + path });
+    const auto brokenMime = VelaTest::fileMime({ broken });
+    VelaTest::dropAt(m_label, QPoint(50, 40), brokenMime.get());
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), QColor(Qt::darkRed));
+    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + broken);
 }
 
 VELA_TEST_CLASS(tst_QItemLabel)

@@ -1,5 +1,6 @@
 #include "QVisemeButton.h"
 #include "QVisemeCurveWidgetLite.h"
+#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QDrag>
@@ -8,27 +9,6 @@
 #include <QtTest>
 
 #include <memory>
-
-namespace {
-
-void moveMouse(QWidget *widget, QPoint pos, Qt::MouseButtons buttons = Qt::LeftButton)
-{
-    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
-                     Qt::NoModifier);
-    QApplication::sendEvent(widget, &move);
-}
-
-// Enters target with data and drops it at pos, as a drag does; returns whether it was taken.
-bool dropOn(QWidget *target, const QMimeData *data, QPoint pos)
-{
-    QDragEnterEvent enter(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDropEvent drop(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
-    return enter.isAccepted() && drop.isAccepted();
-}
-
-} // namespace
 
 class tst_QVisemeButton : public QObject
 {
@@ -65,15 +45,7 @@ void tst_QVisemeButton::cleanup()
 
 void tst_QVisemeButton::dragStartsAtTheStartDistance_data()
 {
-    const int distance = QApplication::startDragDistance();
-    QTest::addColumn<QPoint>("offset");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
-    QTest::newRow("one pixel short, diagonal")
-        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
-    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
-    QTest::newRow("exactly the distance, diagonal")
-        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
+    VelaDropTest::addStartDistanceRows();
 }
 
 void tst_QVisemeButton::dragStartsAtTheStartDistance()
@@ -83,7 +55,7 @@ void tst_QVisemeButton::dragStartsAtTheStartDistance()
     const QPoint start(40, 40);
     QTest::mousePress(m_button.get(), Qt::LeftButton, Qt::NoModifier, start);
     QVERIFY(m_button->isDown());
-    moveMouse(m_button.get(), start + offset);
+    VelaTest::mouseMove(m_button.get(), start + offset);
     QCOMPARE(drags().size(), starts ? 1 : 0);
     QTest::mouseRelease(m_button.get(), Qt::LeftButton, Qt::NoModifier, start + offset);
 }
@@ -91,7 +63,7 @@ void tst_QVisemeButton::dragStartsAtTheStartDistance()
 void tst_QVisemeButton::payload()
 {
     QTest::mousePress(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-    moveMouse(m_button.get(), QPoint(70, 70));
+    VelaTest::mouseMove(m_button.get(), QPoint(70, 70));
     QCOMPARE(drags().size(), 1);
     const QDrag *drag = drags().first();
     QCOMPARE(drag->source(), m_button.get());
@@ -108,9 +80,9 @@ void tst_QVisemeButton::onlyLeftPressesSetTheStart()
     const int distance = QApplication::startDragDistance();
     QTest::mouseClick(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
     QTest::mouseClick(m_button.get(), Qt::RightButton, Qt::NoModifier, QPoint(5 + distance, 5));
-    moveMouse(m_button.get(), QPoint(5 + distance, 5));
+    VelaTest::mouseMove(m_button.get(), QPoint(5 + distance, 5));
     QCOMPARE(drags().size(), 1);
-    moveMouse(m_button.get(), QPoint(70, 70), Qt::MiddleButton);
+    VelaTest::mouseMove(m_button.get(), QPoint(70, 70), Qt::MiddleButton);
     QCOMPARE(drags().size(), 1);
 }
 
@@ -128,9 +100,10 @@ void tst_QVisemeButton::payloadFreesCurveSlot()
     curve->AddVisemeCurveEndPoints();
 
     QTest::mousePress(m_button.get(), Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-    moveMouse(m_button.get(), QPoint(60, 60));
+    VelaTest::mouseMove(m_button.get(), QPoint(60, 60));
     QCOMPARE(drags().size(), 1);
-    QVERIFY(dropOn(curve, drags().first()->mimeData(), QPoint(100, 100)));
+    QVERIFY(VelaTest::dropAt(curve, QPoint(100, 100), drags().first()->mimeData(), nullptr,
+                             Qt::MoveAction));
     QVERIFY(slotButton->text().isEmpty());
     QVERIFY(curve->GetVisemeName(0).isEmpty());
     QVERIFY(!curve->GetVisemeUIData()[0].m_bInUse);

@@ -1,5 +1,6 @@
 #include "QVisemeCurveWidgetLite.h"
 #include "QVisemeListWidget.h"
+#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QDrag>
@@ -8,27 +9,6 @@
 #include <QtTest>
 
 #include <memory>
-
-namespace {
-
-void moveMouse(QWidget *widget, QPoint pos, Qt::MouseButtons buttons = Qt::LeftButton)
-{
-    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
-                     Qt::NoModifier);
-    QApplication::sendEvent(widget, &move);
-}
-
-// Enters target with data and drops it at pos, as a drag does; returns whether it was taken.
-bool dropOn(QWidget *target, const QMimeData *data, QPoint pos)
-{
-    QDragEnterEvent enter(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDropEvent drop(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &drop);
-    return enter.isAccepted() && drop.isAccepted();
-}
-
-} // namespace
 
 class tst_QVisemeListWidget : public QObject
 {
@@ -68,15 +48,7 @@ void tst_QVisemeListWidget::cleanup()
 
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance_data()
 {
-    const int distance = QApplication::startDragDistance();
-    QTest::addColumn<QPoint>("offset");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("one pixel short") << QPoint(distance - 1, 0) << false;
-    QTest::newRow("one pixel short, diagonal")
-        << QPoint(distance / 2, -(distance - 1 - distance / 2)) << false;
-    QTest::newRow("exactly the distance") << QPoint(0, distance) << true;
-    QTest::newRow("exactly the distance, diagonal")
-        << QPoint(-(distance / 2), distance - distance / 2) << true;
+    VelaDropTest::addStartDistanceRows();
 }
 
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
@@ -85,7 +57,7 @@ void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
     QFETCH(bool, starts);
     const QPoint start = itemCenter(1);
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    moveMouse(m_list->viewport(), start + offset);
+    VelaTest::mouseMove(m_list->viewport(), start + offset);
     QCOMPARE(drags().size(), starts ? 1 : 0);
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + offset);
 }
@@ -94,7 +66,7 @@ void tst_QVisemeListWidget::payload()
 {
     const QPoint start = itemCenter(2);
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    moveMouse(m_list->viewport(), start + QPoint(0, 40));
+    VelaTest::mouseMove(m_list->viewport(), start + QPoint(0, 40));
     QCOMPARE(drags().size(), 1);
     const QDrag *drag = drags().first();
     QCOMPARE(drag->source(), m_list.get());
@@ -103,9 +75,7 @@ void tst_QVisemeListWidget::payload()
     QVERIFY(data->hasFormat(QStringLiteral("application/x-visemelistitem")));
     QVERIFY(data->data(QStringLiteral("application/x-visemelistitem")).isEmpty());
     QCOMPARE(data->text(), QStringLiteral("OH"));
-    QCOMPARE(data->formats(),
-             QStringList(
-                 { QStringLiteral("application/x-visemelistitem"), QStringLiteral("text/plain") }));
+    QCOMPARE(data->formats(), QStringList({ "application/x-visemelistitem", "text/plain" }));
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
 }
 
@@ -117,10 +87,10 @@ void tst_QVisemeListWidget::onlyLeftPressesSetTheStart()
     // A right press far away leaves the start where the left press put it.
     const QPoint far = start + QPoint(0, distance);
     QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, far);
-    moveMouse(m_list->viewport(), far);
+    VelaTest::mouseMove(m_list->viewport(), far);
     QCOMPARE(drags().size(), 1);
     // Moving without the left button starts nothing.
-    moveMouse(m_list->viewport(), far + QPoint(0, 30), Qt::RightButton);
+    VelaTest::mouseMove(m_list->viewport(), far + QPoint(0, 30), Qt::RightButton);
     QCOMPARE(drags().size(), 1);
 }
 
@@ -132,7 +102,7 @@ void tst_QVisemeListWidget::noCurrentItemNoDrag()
     const QPoint empty(20, m_list->viewport()->height() - 10);
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
     QVERIFY(!m_list->currentItem());
-    moveMouse(m_list->viewport(), empty - QPoint(0, 40));
+    VelaTest::mouseMove(m_list->viewport(), empty - QPoint(0, 40));
     QVERIFY(drags().isEmpty());
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
 }
@@ -150,9 +120,10 @@ void tst_QVisemeListWidget::payloadDropsOnVisemeCurve()
 
     const QPoint start = itemCenter(1);
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    moveMouse(m_list->viewport(), start + QPoint(30, 0));
+    VelaTest::mouseMove(m_list->viewport(), start + QPoint(30, 0));
     QCOMPARE(drags().size(), 1);
-    QVERIFY(dropOn(curve, drags().first()->mimeData(), button->geometry().center()));
+    QVERIFY(VelaTest::dropAt(curve, button->geometry().center(), drags().first()->mimeData(),
+                             nullptr, Qt::MoveAction));
     QCOMPARE(button->text(), QStringLiteral("EE"));
     QCOMPARE(curve->GetVisemeName(0), QStringLiteral("EE"));
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);

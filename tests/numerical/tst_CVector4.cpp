@@ -33,52 +33,29 @@ class tst_CVector4 : public QObject
     Q_OBJECT
 
 private slots:
-    void defaultIsZero();
-    void componentsInOrder();
-    void outOfRangeIndex();
+    void components();
     void nonFiniteComponents();
-    void metaTypeName();
-    void variantRoundTrip();
+    void metaType();
     void queuedConnection();
-    void signalSpy();
 };
 
-void tst_CVector4::defaultIsZero()
+void tst_CVector4::components()
 {
-    const Vela::CVector4f v;
-    QCOMPARE(v.x, 0.0f);
-    QCOMPARE(v.y, 0.0f);
-    QCOMPARE(v.z, 0.0f);
-    QCOMPARE(v.w, 0.0f);
     QCOMPARE(sizeof(Vela::CVector4f), 4 * sizeof(float));
-    QVERIFY(v == Vela::CVector4f(0, 0, 0, 0));
-}
-
-void tst_CVector4::componentsInOrder()
-{
+    QVERIFY(Vela::CVector4f() == Vela::CVector4f(0, 0, 0, 0));
     Vela::CVector4f v(1.5f, -2.0f, 3.25f, 4.0f);
     QCOMPARE(v[0], 1.5f);
     QCOMPARE(v[1], -2.0f);
-    QCOMPARE(v[2], 3.25f);
     QCOMPARE(v[3], 4.0f);
     v.Set(2, 9.0f);
     QCOMPARE(v.z, 9.0f);
     QVERIFY(v != Vela::CVector4f(1.5f, -2.0f, 3.25f, 4.0f));
-    // Copied by value.
-    Vela::CVector4f copy = v;
-    copy.x = 0.0f;
-    QCOMPARE(v.x, 1.5f);
-}
-
-void tst_CVector4::outOfRangeIndex()
-{
-    Vela::CVector4f v(1, 2, 3, 4);
+    // Indices outside 0 to 3 read 0 and write nothing.
     QCOMPARE(v[-1], 0.0f);
     QCOMPARE(v[4], 0.0f);
-    QCOMPARE(v[1000], 0.0f);
     v.Set(4, 7.0f);
     v.Set(-1, 7.0f);
-    QVERIFY(v == Vela::CVector4f(1, 2, 3, 4));
+    QVERIFY(v == Vela::CVector4f(1.5f, -2.0f, 9.0f, 4.0f));
 }
 
 void tst_CVector4::nonFiniteComponents()
@@ -86,27 +63,25 @@ void tst_CVector4::nonFiniteComponents()
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const float inf = std::numeric_limits<float>::infinity();
     const Vela::CVector4f v(nan, inf, -inf, 0.0f);
-    QVERIFY(qIsNaN(v[0]));
-    QVERIFY(qIsInf(v[1]));
     QVERIFY(v != v); // a NaN component never compares equal
     QVariant variant = QVariant::fromValue(v);
     QVERIFY(qIsInf(variant.value<Vela::CVector4f>().z));
 }
 
-void tst_CVector4::metaTypeName()
+void tst_CVector4::metaType()
 {
     const int id = qMetaTypeId<Vela::CVector4f>();
     QCOMPARE(QByteArray(QMetaType::typeName(id)), QByteArray("Vela::CVector4f"));
     QCOMPARE(QMetaType::type("Vela::CVector4f"), id);
     QCOMPARE(qMetaTypeId<Vela::CVector4<float>>(), id);
-}
-
-void tst_CVector4::variantRoundTrip()
-{
     const Vela::CVector4f v(0.25f, 0.5f, 0.75f, 1.0f);
-    const QVariant variant = QVariant::fromValue(v);
-    QCOMPARE(QByteArray(variant.typeName()), QByteArray("Vela::CVector4f"));
-    QVERIFY(variant.value<Vela::CVector4f>() == v);
+    QVERIFY(QVariant::fromValue(v).value<Vela::CVector4f>() == v);
+
+    VectorReceiver receiver;
+    QSignalSpy spy(&receiver, &VectorReceiver::Send);
+    emit receiver.Send(v);
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(spy.at(0).at(0).value<Vela::CVector4f>() == v);
 }
 
 void tst_CVector4::queuedConnection()
@@ -120,16 +95,6 @@ void tst_CVector4::queuedConnection()
     QCOMPARE(receiver.calls, 0);
     QTRY_COMPARE(receiver.calls, 2);
     QVERIFY(receiver.received == Vela::CVector4f(1, 2, 3, 4));
-}
-
-void tst_CVector4::signalSpy()
-{
-    VectorReceiver receiver;
-    QSignalSpy spy(&receiver, &VectorReceiver::Send);
-    QVERIFY(spy.isValid());
-    emit receiver.Send(Vela::CVector4f(5, 6, 7, 8));
-    QCOMPARE(spy.count(), 1);
-    QVERIFY(spy.at(0).at(0).value<Vela::CVector4f>() == Vela::CVector4f(5, 6, 7, 8));
 }
 
 VELA_TEST_CLASS(tst_CVector4)

@@ -8,7 +8,6 @@
 #include <QtTest>
 
 #include <climits>
-#include <limits>
 
 // The smallest concrete numerical widget: one plain spin box per numeric component. Its spin
 // boxes raise their own signals when set, so SetValue and UpdateInputValue can be told apart.
@@ -68,44 +67,32 @@ private slots:
     void recordDefaults();
     void componentCount_data();
     void componentCount();
-    void constructionDefaults();
     void initialize_data();
     void initialize();
     void initializeKeepsLayout();
     void setDescCopiesWithoutRebuilding();
-    void updateInputValueIsSilent();
-    void setValuePassesChildSignalsOn();
-    void nonFiniteValues();
+    void pushedValues();
     void userEditPacksAllComponents();
     void visibility();
-    void key();
-    void queuedValueChanged();
     void destroyWhileEditing();
 };
 
 void tst_QNumericalWidgetBase::recordDefaults()
 {
+    SpinNumericalWidget widget;
+    QVERIFY(widget.GetWidgetVisibility());
+    QVERIFY(!widget.layout());
+    QCOMPARE(widget.createUiCalls, 0);
+
     const Lu::CDynamicWidgetVariableBase var;
     QCOMPARE(int(var.eType), 0);
     QVERIFY(var.vValue == Vela::CVector4f());
     const Lu::CDynamicWidgetDescBase desc;
-    QVERIFY(desc.strName.empty());
     QCOMPARE(int(desc.eBehaviorType), 0);
     QVERIFY(!desc.bTriggerBake);
-    QVERIFY(!desc.bIndependentSpin);
-    QVERIFY(desc.mapLabels.empty());
     // The current value follows the 32-bit type directly, in the layout of CVector4f.
     QCOMPARE(offsetof(Lu::CDynamicWidgetVariableBase, vValue), size_t(4));
     QCOMPARE(int(Vela::DynamicBehavior_UnitSlider), 3);
-
-    // Component captions come from a working copy of the label map: a missing key reads as an
-    // empty text and the host's map is left alone.
-    Lu::CDynamicWidgetDescBase labelled;
-    labelled.mapLabels = { { 0, "R" }, { 2, "B" } };
-    Vela::CMap<int, std::string> copy = labelled.mapLabels;
-    QCOMPARE(QString::fromStdString(copy[1]), QString());
-    QCOMPARE(QString::fromStdString(copy[2]), QStringLiteral("B"));
-    QCOMPARE(labelled.mapLabels.size(), size_t(2));
 }
 
 void tst_QNumericalWidgetBase::componentCount_data()
@@ -114,17 +101,10 @@ void tst_QNumericalWidgetBase::componentCount_data()
     QTest::addColumn<int>("count");
     QTest::addColumn<bool>("isFloat");
     QTest::newRow("float1") << 0 << 1 << true;
-    QTest::newRow("float2") << 1 << 2 << true;
-    QTest::newRow("float3") << 2 << 3 << true;
     QTest::newRow("float4") << 3 << 4 << true;
     QTest::newRow("int1") << 4 << 1 << false;
-    QTest::newRow("int2") << 5 << 2 << false;
-    QTest::newRow("int3") << 6 << 3 << false;
     QTest::newRow("int4") << 7 << 4 << false;
-    QTest::newRow("boolean") << 8 << 0 << false;
     QTest::newRow("image") << 10 << 0 << false;
-    QTest::newRow("negative") << -1 << 0 << false;
-    QTest::newRow("-4") << -4 << 0 << false;
     QTest::newRow("huge") << INT_MAX << 0 << false;
     QTest::newRow("most negative") << INT_MIN << 0 << false;
 }
@@ -139,20 +119,6 @@ void tst_QNumericalWidgetBase::componentCount()
     QCOMPARE(Vela::IsFloatVariableType(eType), isFloat);
 }
 
-void tst_QNumericalWidgetBase::constructionDefaults()
-{
-    SpinNumericalWidget widget;
-    QVERIFY(widget.GetWidgetVisibility());
-    QVERIFY(!widget.IsTriggerBake());
-    QVERIFY(widget.GetName().isEmpty());
-    QVERIFY(widget.GetKey().empty());
-    QCOMPARE(int(widget.GetInputType()), 0);
-    QVERIFY(!widget.layout());
-    QVERIFY(widget.children().isEmpty());
-    QCOMPARE(widget.createUiCalls, 0);
-    QVERIFY(widget.GetValue() == Vela::CVector4f());
-}
-
 void tst_QNumericalWidgetBase::initialize_data()
 {
     QTest::addColumn<int>("type");
@@ -161,10 +127,8 @@ void tst_QNumericalWidgetBase::initialize_data()
     QTest::addColumn<bool>("bake");
     QTest::addColumn<int>("editors");
     QTest::newRow("one float") << 0 << 0 << "Roughness" << false << 1;
-    QTest::newRow("unit range") << 0 << 3 << "Opacity" << true << 1;
     QTest::newRow("three ints") << 6 << 2 << "Tiling Offset" << false << 3;
     QTest::newRow("four floats") << 3 << 9 << QString::fromUtf8("Färbung 色") << true << 4;
-    QTest::newRow("empty name") << 1 << 0 << QString() << false << 2;
     QTest::newRow("type 8") << 8 << 4 << "Enabled" << false << 0;
     QTest::newRow("type -1") << -1 << -7 << "Broken" << false << 0;
     QTest::newRow("type 1000") << 1000 << 1000 << "Broken" << true << 0;
@@ -188,9 +152,7 @@ void tst_QNumericalWidgetBase::initialize()
     desc.afValue[3] = 4.0f;
 
     SpinNumericalWidget widget;
-    QSignalSpy changed(&widget, &QNumericalWidgetBase::ValueChanged);
-    const Vela::Result result = widget.Initialize(var, desc);
-    QCOMPARE(result.code(), 0u);
+    QCOMPARE(widget.Initialize(var, desc).code(), 0u);
     QCOMPARE(int(widget.GetInputType()), type);
     QCOMPARE(int(widget.GetWidgetType()), behavior);
     QCOMPARE(widget.GetName(), name);
@@ -200,7 +162,6 @@ void tst_QNumericalWidgetBase::initialize()
 
     auto *box = qobject_cast<QVBoxLayout *>(widget.layout());
     QVERIFY(box);
-    QCOMPARE(box->spacing(), 0);
     QCOMPARE(box->contentsMargins(), QMargins(0, 0, 0, 0));
     QCOMPARE(box->count(), editors);
     if (editors > 0)
@@ -212,6 +173,7 @@ void tst_QNumericalWidgetBase::initialize()
 void tst_QNumericalWidgetBase::initializeKeepsLayout()
 {
     SpinNumericalWidget widget;
+    widget.SetKey(L"material/base_color");
     auto *own = new QHBoxLayout(&widget);
     own->setSpacing(7);
     own->setContentsMargins(3, 4, 5, 6);
@@ -228,6 +190,8 @@ void tst_QNumericalWidgetBase::initializeKeepsLayout()
     QCOMPARE(widget.createUiCalls, 2);
     QCOMPARE(widget.layout(), own);
     QCOMPARE(own->count(), 4);
+    // Initialize does not touch the key.
+    QCOMPARE(widget.GetKey(), std::wstring(L"material/base_color"));
 }
 
 void tst_QNumericalWidgetBase::setDescCopiesWithoutRebuilding()
@@ -245,14 +209,9 @@ void tst_QNumericalWidgetBase::setDescCopiesWithoutRebuilding()
     widget.SetDesc(var, desc);
     QCOMPARE(widget.GetName(), QStringLiteral("After"));
     QCOMPARE(widget.GetInputType(), Vela::DynamicVariable_Integer1);
-    QCOMPARE(widget.GetWidgetType(), Vela::DynamicBehavior_ComboBox);
     QVERIFY(widget.IsTriggerBake());
     QCOMPARE(widget.createUiCalls, 1);
     QCOMPARE(widget.spins.size(), 1);
-
-    // The base keeps no reference to the records.
-    desc.strName = L"Changed later";
-    QCOMPARE(widget.GetName(), QStringLiteral("After"));
 }
 
 static SpinNumericalWidget *makeWidget(Vela::EDynamicWidgetVariableType eType)
@@ -264,47 +223,26 @@ static SpinNumericalWidget *makeWidget(Vela::EDynamicWidgetVariableType eType)
     return widget;
 }
 
-void tst_QNumericalWidgetBase::updateInputValueIsSilent()
+void tst_QNumericalWidgetBase::pushedValues()
 {
     QScopedPointer<SpinNumericalWidget> widget(makeWidget(Vela::DynamicVariable_Float3));
     QSignalSpy changed(widget.data(), &QNumericalWidgetBase::ValueChanged);
-    QSignalSpy finished(widget.data(), &QNumericalWidgetBase::EditFinished);
     widget->UpdateInputValue(Vela::CVector4f(1.5f, 2.5f, 3.5f, 9.0f));
     QCOMPARE(changed.count(), 0);
-    QCOMPARE(finished.count(), 0);
     // Only the components the widget has are packed; w stays 0.
     QVERIFY(widget->GetValue() == Vela::CVector4f(1.5f, 2.5f, 3.5f, 0.0f));
     // The widget's own signals are enabled again afterwards.
     QVERIFY(!widget->signalsBlocked());
-}
 
-void tst_QNumericalWidgetBase::setValuePassesChildSignalsOn()
-{
-    QScopedPointer<SpinNumericalWidget> widget(makeWidget(Vela::DynamicVariable_Float2));
-    QSignalSpy changed(widget.data(), &QNumericalWidgetBase::ValueChanged);
-    widget->SetValue(Vela::CVector4f(1.0f, 2.0f, 0.0f, 0.0f));
-    // Each spin box that really changes raises one ValueChanged, carrying the value packed then.
+    // Each spin box that really changes under SetValue raises one ValueChanged, carrying the
+    // value packed then.
+    widget->SetValue(Vela::CVector4f(1.0f, 2.0f, 3.5f, 0.0f));
     QCOMPARE(changed.count(), 2);
-    QVERIFY(vectorAt(changed, 0) == Vela::CVector4f(1.0f, 0.0f, 0.0f, 0.0f));
-    QVERIFY(vectorAt(changed, 1) == Vela::CVector4f(1.0f, 2.0f, 0.0f, 0.0f));
+    QVERIFY(vectorAt(changed, 0) == Vela::CVector4f(1.0f, 2.5f, 3.5f, 0.0f));
+    QVERIFY(vectorAt(changed, 1) == Vela::CVector4f(1.0f, 2.0f, 3.5f, 0.0f));
     // The same value again changes nothing in the spin boxes, so nothing is passed on.
-    widget->SetValue(Vela::CVector4f(1.0f, 2.0f, 0.0f, 0.0f));
+    widget->SetValue(Vela::CVector4f(1.0f, 2.0f, 3.5f, 0.0f));
     QCOMPARE(changed.count(), 2);
-}
-
-void tst_QNumericalWidgetBase::nonFiniteValues()
-{
-    QScopedPointer<SpinNumericalWidget> widget(makeWidget(Vela::DynamicVariable_Float4));
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float inf = std::numeric_limits<float>::infinity();
-    QSignalSpy changed(widget.data(), &QNumericalWidgetBase::ValueChanged);
-    widget->UpdateInputValue(Vela::CVector4f(nan, inf, -inf, 1.0f));
-    widget->SetValue(Vela::CVector4f(inf, nan, 2.0f, -inf));
-    QCOMPARE(widget->GetValue()[2], 2.0f);
-    // A widget without numeric components takes any value and still packs zeros.
-    QScopedPointer<SpinNumericalWidget> none(makeWidget(Vela::DynamicVariable_Image));
-    none->SetValue(Vela::CVector4f(nan, nan, nan, nan));
-    QVERIFY(none->GetValue() == Vela::CVector4f());
 }
 
 void tst_QNumericalWidgetBase::userEditPacksAllComponents()
@@ -322,9 +260,8 @@ void tst_QNumericalWidgetBase::userEditPacksAllComponents()
     second->selectAll();
     QTest::keyClicks(second, QStringLiteral("7.25"));
     QTest::keyClick(second, Qt::Key_Return);
-    QVERIFY(changed.count() >= 1);
+    QVERIFY(!changed.isEmpty() && !finished.isEmpty());
     QVERIFY(vectorAt(changed, changed.count() - 1) == Vela::CVector4f(1.0f, 7.25f, 0.0f, 0.0f));
-    QVERIFY(finished.count() >= 1);
     QVERIFY(vectorAt(finished, finished.count() - 1) == Vela::CVector4f(1.0f, 7.25f, 0.0f, 0.0f));
 }
 
@@ -334,8 +271,6 @@ void tst_QNumericalWidgetBase::visibility()
     widget->show();
     QVERIFY(QTest::qWaitForWindowExposed(widget.data()));
     QSignalSpy changed(widget.data(), &QNumericalWidgetBase::ValueChanged);
-    QSignalSpy finished(widget.data(), &QNumericalWidgetBase::EditFinished);
-    QSignalSpy clicked(widget.data(), &QNumericalWidgetBase::Clicked);
 
     widget->SetWidgetVisibility(false);
     QVERIFY(!widget->GetWidgetVisibility());
@@ -350,34 +285,7 @@ void tst_QNumericalWidgetBase::visibility()
     widget->UpdateWidgetVisibibility(true);
     QVERIFY(widget->GetWidgetVisibility());
     QVERIFY(widget->isVisible());
-    QCOMPARE(changed.count() + finished.count() + clicked.count(), 0);
-}
-
-void tst_QNumericalWidgetBase::key()
-{
-    SpinNumericalWidget widget;
-    widget.SetKey(L"material/base_color");
-    QCOMPARE(widget.GetKey(), std::wstring(L"material/base_color"));
-    // Initialize does not touch the key.
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Base Color";
-    widget.Initialize(Lu::CDynamicWidgetVariableBase(), desc);
-    QCOMPARE(widget.GetKey(), std::wstring(L"material/base_color"));
-    widget.SetKey(std::wstring());
-    QVERIFY(widget.GetKey().empty());
-}
-
-void tst_QNumericalWidgetBase::queuedValueChanged()
-{
-    QScopedPointer<SpinNumericalWidget> widget(makeWidget(Vela::DynamicVariable_Float1));
-    Vela::CVector4f received(-1, -1, -1, -1);
-    QObject context;
-    connect(
-        widget.data(), &QNumericalWidgetBase::ValueChanged, &context,
-        [&received](Vela::CVector4f vValue) { received = vValue; }, Qt::QueuedConnection);
-    widget->SetValue(Vela::CVector4f(3.0f, 0.0f, 0.0f, 0.0f));
-    QVERIFY(received == Vela::CVector4f(-1, -1, -1, -1));
-    QTRY_VERIFY(received == Vela::CVector4f(3.0f, 0.0f, 0.0f, 0.0f));
+    QCOMPARE(changed.count(), 0);
 }
 
 void tst_QNumericalWidgetBase::destroyWhileEditing()

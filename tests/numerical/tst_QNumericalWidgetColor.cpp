@@ -1,17 +1,13 @@
 #include "../color/ColorTestSupport.h"
-#include "NumericalEditLog.h"
+#include "NumericalTestSupport.h"
 #include "QColorButton.h"
 #include "QNumericalWidgetColor.h"
 #include "VelaTest.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSpacerItem>
-#include <QVBoxLayout>
-#include <QtTest>
 
 #include <limits>
-#include <memory>
 
 using NumericalTest::EditLog;
 
@@ -40,24 +36,20 @@ private slots:
     void acceptedDialog();
     void cancelledDialog();
     void pushesAreSilent();
-    void setDesc();
-    void undoRedoBeforeInitialize();
 
 private:
     // Clicks the colour button and lets `action` act on the open dialog.
     void runDialog(const std::function<void(QColorDialog *)> &action);
 
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<NumericalTest::Panel> m_panel;
     QNumericalWidgetColor *m_widget = nullptr;
     QColorButton *m_button = nullptr;
 };
 
 void tst_QNumericalWidgetColor::init()
 {
-    m_window.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_window.get());
     m_widget = new QNumericalWidgetColor;
-    layout->addWidget(m_widget);
+    m_panel.reset(new NumericalTest::Panel(m_widget));
 
     Lu::CDynamicWidgetVariableBase var;
     var.eType = Vela::DynamicVariable_Float4;
@@ -68,13 +60,12 @@ void tst_QNumericalWidgetColor::init()
     QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
     m_button = m_widget->findChild<QColorButton *>();
     QVERIFY(m_button);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColor::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
     m_button = nullptr;
     m_widget = nullptr;
 }
@@ -91,6 +82,16 @@ void tst_QNumericalWidgetColor::construction()
     QVERIFY(!widget.layout());
     // No button yet: black, opaque.
     NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f(0, 0, 0, 1));
+
+    // Re-describing an unbuilt widget only copies the fields.
+    int calls = 0;
+    widget.SetUndoRedoFunctions([&] { ++calls; }, {}, {}, {});
+    Lu::CDynamicWidgetDescBase desc;
+    desc.strName = L"Later";
+    widget.SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
+    QCOMPARE(widget.GetName(), QStringLiteral("Later"));
+    QVERIFY(widget.children().isEmpty());
+    QCOMPARE(calls, 0);
 }
 
 void tst_QNumericalWidgetColor::createUi()
@@ -98,21 +99,13 @@ void tst_QNumericalWidgetColor::createUi()
     auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
     QVERIFY(label);
     QCOMPARE(label->text(), QStringLiteral("Base Color :"));
-    QCOMPARE(m_button->parentWidget(), m_widget);
-    QCOMPARE(m_button->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(m_button->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
     QCOMPARE(m_button->iconSize(), QSize(60, 25));
     QCOMPARE(iconColor(m_button), QColor(127, 63, 255));
-
+    // Caption, stretch, colour button.
     auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
     QVERIFY(row);
     QCOMPARE(row->count(), 3);
     QCOMPARE(row->itemAt(0)->widget(), label);
-    QSpacerItem *spacer = row->itemAt(1)->spacerItem();
-    QVERIFY(spacer);
-    QCOMPARE(spacer->sizeHint(), QSize(10, 10));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
     QCOMPARE(row->itemAt(2)->widget(), m_button);
 }
 
@@ -124,8 +117,6 @@ void tst_QNumericalWidgetColor::valueRoundTrip_data()
     QTest::newRow("truncated") << Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f) << QColor(127, 63, 255)
                                << Vela::CVector4f(0.498f, 0.247f, 1.0f, 1.0f);
     QTest::newRow("black") << Vela::CVector4f() << QColor(0, 0, 0) << Vela::CVector4f(0, 0, 0, 1);
-    QTest::newRow("white") << Vela::CVector4f(1, 1, 1, 1) << QColor(255, 255, 255)
-                           << Vela::CVector4f(1, 1, 1, 1);
     QTest::newRow("out of range") << Vela::CVector4f(2.0f, -1.0f, 1e30f, -5.0f)
                                   << QColor(255, 0, 255) << Vela::CVector4f(1, 0, 1, 1);
     const float nan = std::numeric_limits<float>::quiet_NaN();
@@ -165,9 +156,7 @@ void tst_QNumericalWidgetColor::acceptedDialog()
     NUMERICAL_COMPARE_VECTOR(log.values.at(0), expected);
     NUMERICAL_COMPARE_VECTOR(log.values.at(1), expected);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), expected);
-    QCOMPARE(calls,
-             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
-                            QStringLiteral("accepted") }));
+    QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 }
 
 void tst_QNumericalWidgetColor::cancelledDialog()
@@ -198,37 +187,18 @@ void tst_QNumericalWidgetColor::pushesAreSilent()
     QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
     QCOMPARE(iconColor(m_button), QColor(Qt::blue));
     QVERIFY(log.names.isEmpty());
-}
 
-void tst_QNumericalWidgetColor::setDesc()
-{
-    EditLog log(m_widget);
+    // Re-describing takes the new value, also silently, and drops the colon.
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(0, 1, 0, 1);
     Lu::CDynamicWidgetDescBase desc;
     desc.strName = L"Tint";
     m_widget->SetDesc(var, desc);
     auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
-    // Re-describing drops the colon.
     QCOMPARE(label->text(), QStringLiteral("Tint"));
-    QCOMPARE(m_widget->GetName(), QStringLiteral("Tint"));
     QCOMPARE(m_button->GetColor(), QColor(Qt::green));
     QCOMPARE(m_widget->findChildren<QColorButton *>().size(), 1);
     QVERIFY(log.names.isEmpty());
-}
-
-void tst_QNumericalWidgetColor::undoRedoBeforeInitialize()
-{
-    QNumericalWidgetColor widget;
-    int calls = 0;
-    widget.SetUndoRedoFunctions([&] { ++calls; }, {}, {}, {});
-    // Re-describing an unbuilt widget only copies the fields.
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Later";
-    widget.SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
-    QCOMPARE(widget.GetName(), QStringLiteral("Later"));
-    QVERIFY(widget.children().isEmpty());
-    QCOMPARE(calls, 0);
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetColor)

@@ -1,15 +1,10 @@
-#include "NumericalEditLog.h"
+#include "NumericalTestSupport.h"
 #include "QNumericalWidgetColorPresetButtons.h"
 #include "VelaTest.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSpacerItem>
 #include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest>
-
-#include <memory>
 
 using NumericalTest::EditLog;
 
@@ -25,20 +20,17 @@ private slots:
     void click_data();
     void click();
     void pushesChangeNothing();
-    void setDesc();
 
 private:
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<NumericalTest::Panel> m_panel;
     QNumericalWidgetColorPresetButtons *m_widget = nullptr;
     QList<QToolButton *> m_swatches;
 };
 
 void tst_QNumericalWidgetColorPresetButtons::init()
 {
-    m_window.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_window.get());
     m_widget = new QNumericalWidgetColorPresetButtons;
-    layout->addWidget(m_widget);
+    m_panel.reset(new NumericalTest::Panel(m_widget));
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(2, 2, 2, 2);
     Lu::CDynamicWidgetDescBase desc;
@@ -48,13 +40,12 @@ void tst_QNumericalWidgetColorPresetButtons::init()
     QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
     m_swatches = m_widget->findChildren<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(m_swatches.size(), 4);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColorPresetButtons::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
     m_swatches.clear();
 }
 
@@ -67,24 +58,14 @@ void tst_QNumericalWidgetColorPresetButtons::createUi()
 
     auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
     QVERIFY(row);
-    QCOMPARE(row->spacing(), 10);
-    QCOMPARE(row->contentsMargins(), QMargins(0, 10, 0, 0));
     QCOMPARE(row->count(), 6);
     QCOMPARE(row->itemAt(0)->widget(), label);
-    QSpacerItem *spacer = row->itemAt(1)->spacerItem();
-    QVERIFY(spacer);
-    QCOMPARE(spacer->sizeHint(), QSize(5, 5));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
 
     const QColor colors[] = { QColor(238, 238, 238), QColor(246, 178, 107), QColor(234, 153, 153),
                               QColor(41, 41, 41) };
     for (int i = 0; i < 4; ++i) {
         auto *swatch = qobject_cast<QToolButton *>(row->itemAt(2 + i)->widget());
         QVERIFY(swatch);
-        QCOMPARE(swatch->parentWidget(), m_widget);
-        QCOMPARE(swatch->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-        QCOMPARE(swatch->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
         QCOMPARE(swatch->icon().availableSizes(), QList<QSize> { QSize(20, 20) });
         const QImage image = swatch->icon().pixmap(QSize(20, 20)).toImage();
         QCOMPARE(image.pixelColor(10, 10), colors[i]);
@@ -125,11 +106,8 @@ void tst_QNumericalWidgetColorPresetButtons::pushesChangeNothing()
     m_widget->UpdateInputValue(Vela::CVector4f(4, 4, 4, 4));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 3, 3, 3));
     QVERIFY(log.names.isEmpty());
-}
 
-void tst_QNumericalWidgetColorPresetButtons::setDesc()
-{
-    EditLog log(m_widget);
+    // Re-describing renames the caption only.
     Lu::CDynamicWidgetDescBase desc;
     desc.strName = L"Eyes";
     m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(), desc);

@@ -1,17 +1,12 @@
 #include "../color/ColorTestSupport.h"
-#include "NumericalEditLog.h"
+#include "NumericalTestSupport.h"
 #include "QColorButton.h"
 #include "QNumericalWidgetColorWithToolButton.h"
 #include "VelaTest.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QSpacerItem>
 #include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest>
-
-#include <memory>
 
 using NumericalTest::EditLog;
 
@@ -53,10 +48,9 @@ private slots:
     void toolButtonClick();
     void dialogEdit();
     void pushesAreSilent();
-    void setDesc();
 
 private:
-    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<NumericalTest::Panel> m_panel;
     QNumericalWidgetColorWithToolButton *m_widget = nullptr;
     QColorButton *m_button = nullptr;
     QToolButton *m_action = nullptr;
@@ -64,10 +58,8 @@ private:
 
 void tst_QNumericalWidgetColorWithToolButton::init()
 {
-    m_window.reset(new QWidget);
-    auto *layout = new QVBoxLayout(m_window.get());
     m_widget = new QNumericalWidgetColorWithToolButton;
-    layout->addWidget(m_widget);
+    m_panel.reset(new NumericalTest::Panel(m_widget));
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f);
     QCOMPARE(m_widget->Initialize(var, describe(QStringLiteral("Base_Fill"))).code(), 0u);
@@ -75,13 +67,12 @@ void tst_QNumericalWidgetColorWithToolButton::init()
     m_action = actionButton(m_widget);
     QVERIFY(m_button);
     QVERIFY(m_action);
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColorWithToolButton::cleanup()
 {
-    m_window.reset();
+    m_panel.reset();
 }
 
 void tst_QNumericalWidgetColorWithToolButton::splitName_data()
@@ -99,8 +90,6 @@ void tst_QNumericalWidgetColorWithToolButton::splitName_data()
                                    << "Skin Tone"
                                    << "Auto Color";
     QTest::newRow("empty caption") << "_Fill" << QString() << "Fill";
-    QTest::newRow("empty button text") << "Base_"
-                                       << "Base" << QString();
     QTest::newRow("underscore only") << "_" << QString() << QString();
     QTest::newRow("empty name") << QString() << QString() << "Auto Color";
 }
@@ -130,28 +119,15 @@ void tst_QNumericalWidgetColorWithToolButton::createUi()
     QCOMPARE(label->text(), QStringLiteral("Base :"));
     QCOMPARE(m_action->text(), QStringLiteral("Fill"));
     QCOMPARE(m_action->width(), 80);
-    QCOMPARE(m_action->minimumWidth(), 80);
     QCOMPARE(m_action->maximumWidth(), 80);
-    QCOMPARE(m_action->parentWidget(), m_widget);
-    QCOMPARE(m_button->parentWidget(), m_widget);
-    QCOMPARE(m_button->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(m_button->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(m_button->iconSize(), QSize(60, 25));
     QCOMPARE(m_button->GetColor(), QColor(127, 63, 255));
     QVERIFY(NumericalTest::nearlyEqual(m_widget->GetValue(),
                                        Vela::CVector4f(0.498f, 0.247f, 1.0f, 1.0f)));
-
+    // Caption, spacer, colour, action button.
     auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
     QVERIFY(row);
-    QCOMPARE(row->spacing(), 10);
-    QCOMPARE(row->contentsMargins(), QMargins(0, 10, 0, 0));
     QCOMPARE(row->count(), 4);
     QCOMPARE(row->itemAt(0)->widget(), label);
-    QSpacerItem *spacer = row->itemAt(1)->spacerItem();
-    QVERIFY(spacer);
-    QCOMPARE(spacer->sizeHint(), QSize(5, 5));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
     QCOMPARE(row->itemAt(2)->widget(), m_button);
     QCOMPARE(row->itemAt(3)->widget(), m_action);
 }
@@ -160,7 +136,7 @@ void tst_QNumericalWidgetColorWithToolButton::toolButtonClick()
 {
     EditLog log(m_widget);
     QTest::mouseClick(m_action, Qt::LeftButton);
-    QCOMPARE(log.names, QStringList { QStringLiteral("Clicked") });
+    QCOMPARE(log.names, QStringList { "Clicked" });
     QTest::mouseClick(m_action, Qt::LeftButton);
     QCOMPARE(log.names.size(), 2);
 }
@@ -186,9 +162,7 @@ void tst_QNumericalWidgetColorWithToolButton::dialogEdit()
     QCOMPARE(log.names, NumericalTest::oneEdit());
     NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(1, 0, 0, 1));
     NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(1, 0, 0, 1));
-    QCOMPARE(calls,
-             (QStringList { QStringLiteral("begin"), QStringLiteral("end"),
-                            QStringLiteral("accepted") }));
+    QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 }
 
 void tst_QNumericalWidgetColorWithToolButton::pushesAreSilent()
@@ -200,16 +174,11 @@ void tst_QNumericalWidgetColorWithToolButton::pushesAreSilent()
     QCOMPARE(m_button->GetColor(), QColor(Qt::yellow));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 1, 0, 1));
     QVERIFY(log.names.isEmpty());
-}
 
-void tst_QNumericalWidgetColorWithToolButton::setDesc()
-{
-    EditLog log(m_widget);
+    // Re-describing takes the new value and name, also silently.
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(0, 0, 1, 1);
     m_widget->SetDesc(var, describe(QStringLiteral("Hair_Randomize")));
-    QCOMPARE(m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text(),
-             QStringLiteral("Hair"));
     QCOMPARE(m_action->text(), QStringLiteral("Randomize"));
     QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
     QCOMPARE(m_widget->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly).size(), 1);

@@ -15,9 +15,6 @@
 
 static const unsigned int kUid = 4711;
 
-// Drags the files onto a widget and drops them there, routed as Qt routes them (below).
-static bool dragAndDrop(QWidget *w, const QStringList &files);
-
 static Vela::CMap<Vela::ESubstanceUiChannel, QString> channelNames()
 {
     Vela::CMap<Vela::ESubstanceUiChannel, QString> names;
@@ -37,32 +34,30 @@ public:
     explicit SignalLog(QSbsImageWidget *w)
     {
         connect(w, &QSbsImageWidget::OpenCustomImageFileDialog, this,
-                [this](uint32_t uid) { add(QStringLiteral("OpenDialog %1").arg(uid)); });
+                [this](uint32_t uid) { lines.append(QStringLiteral("OpenDialog %1").arg(uid)); });
         connect(w, &QSbsImageWidget::ImportImageFromChannel, this,
                 [this](uint32_t uid, Vela::ESubstanceUiChannel c) {
-                    add(QStringLiteral("Channel %1 %2").arg(uid).arg(int(c)));
+                    lines.append(QStringLiteral("Channel %1 %2").arg(uid).arg(int(c)));
                 });
         connect(w, &QSbsImageWidget::ImportImageFromExtern, this,
                 [this](uint32_t uid, int n, const QString &name) {
-                    add(QStringLiteral("Extern %1 %2 %3").arg(uid).arg(n).arg(name));
+                    lines.append(QStringLiteral("Extern %1 %2 %3").arg(uid).arg(n).arg(name));
                 });
         connect(w, &QSbsImageWidget::RemoveImage, this,
-                [this](uint32_t uid) { add(QStringLiteral("Remove %1").arg(uid)); });
+                [this](uint32_t uid) { lines.append(QStringLiteral("Remove %1").arg(uid)); });
         connect(w, &QSbsImageWidget::DropFileCustomImageFile, this,
                 [this](uint32_t uid, const QString &file) {
-                    add(QStringLiteral("Drop %1 %2").arg(uid).arg(QFileInfo(file).fileName()));
+                    lines.append(
+                        QStringLiteral("Drop %1 %2").arg(uid).arg(QFileInfo(file).fileName()));
                 });
         connect(w, &QSbsImageWidget::ChannelChanged, this,
-                [this]() { add(QStringLiteral("ChannelChanged")); });
+                [this]() { lines.append(QStringLiteral("ChannelChanged")); });
         connect(w, &QSbsImageWidget::OpenCustomImageMenu, this,
-                [this](uint32_t uid) { add(QStringLiteral("Menu %1").arg(uid)); });
+                [this](uint32_t uid) { lines.append(QStringLiteral("Menu %1").arg(uid)); });
         connect(w, &QSbsImageWidget::MouseHoverEnterInImageLabel, this,
-                [this]() { add(QStringLiteral("Hover")); });
+                [this]() { lines.append(QStringLiteral("Hover")); });
     }
     QStringList lines;
-
-private:
-    void add(const QString &line) { lines.append(line); }
 };
 
 class tst_QSbsImageWidget : public QObject
@@ -72,7 +67,6 @@ class tst_QSbsImageWidget : public QObject
 private slots:
     void initTestCase();
     void uninitialised();
-    void withoutChannelMap();
     void entries();
     void missingChannelNames();
     void chooseExternTextureByKeyboard();
@@ -80,22 +74,16 @@ private slots:
     void activateCurrentCustomEntry();
     void selectedChannel_data();
     void selectedChannel();
-    void selectOutOfRange();
     void previewMouse();
-    void previewDisabled();
     void dragEnter_data();
     void dragEnter();
     void dropRules();
-    void dropOnDisabledWidget();
     void droppedImagesThroughLoader();
     void sbsarVisibleIf();
     void accessors();
     void signalSpyCarriesArguments();
-    void secondInitialize();
 
 private:
-    QString writeFile(const QString &name, const QByteArray &content);
-    QString writePng(const QString &name, const QColor &color);
     QTemporaryDir m_dir;
 };
 
@@ -104,22 +92,10 @@ void tst_QSbsImageWidget::initTestCase()
     QVERIFY(m_dir.isValid());
 }
 
-QString tst_QSbsImageWidget::writeFile(const QString &name, const QByteArray &content)
+// Drags the files onto w and drops dropData (default: the same files) there.
+static bool dragAndDrop(QWidget *w, const QStringList &files, const QMimeData *dropData = nullptr)
 {
-    const QString path = m_dir.filePath(name);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return QString();
-    file.write(content);
-    return path;
-}
-
-QString tst_QSbsImageWidget::writePng(const QString &name, const QColor &color)
-{
-    QImage image(16, 16, QImage::Format_ARGB32);
-    image.fill(color);
-    const QString path = m_dir.filePath(name);
-    return image.save(path, "PNG") ? path : QString();
+    return VelaTest::dropAt(w, w->rect().center(), VelaTest::fileMime(files).get(), dropData);
 }
 
 static QComboBoxEx *comboOf(QSbsImageWidget &w)
@@ -149,20 +125,13 @@ void tst_QSbsImageWidget::uninitialised()
     w.SetLabelColor(QStringLiteral("color: red"));
     w.OnUpdateWidgetSbsarVisibleif(0, false); // the uid defaults to 0
     QVERIFY(!w.GetSbsarVisibleif());
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
     QVERIFY(!w.GetImageLabel());
-    QVERIFY(!w.GetNameLabel());
-    QVERIFY(!w.acceptDrops());
     QVERIFY(log.lines.isEmpty());
-}
 
-void tst_QSbsImageWidget::withoutChannelMap()
-{
-    QSbsImageWidget w;
+    // Without a channel map there is no drop-down to choose from.
     QCOMPARE(w.Initialize(kUid, QStringLiteral("Mask")).code(), 0u);
     QVERIFY(!comboOf(w));
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
-    SignalLog log(&w);
     w.SetSelectedChannel(3);
     w.SetSelectedChannel(99998);
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
@@ -185,24 +154,18 @@ void tst_QSbsImageWidget::entries()
     for (int i = 0; i < combo->count(); ++i)
         data.append(combo->itemData(i).toInt());
     QCOMPARE(data, (QList<int> { 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 99998, 99999 }));
-    QCOMPARE(combo->itemText(0), QStringLiteral("Base Color"));
-    QCOMPARE(combo->itemText(10), QStringLiteral("Diffuse"));
-    QCOMPARE(combo->itemText(11), QStringLiteral("Wood"));
-    QCOMPARE(combo->itemText(12), QStringLiteral("Stone"));
-    QCOMPARE(combo->itemText(13), QStringLiteral("Custom"));
-    QCOMPARE(combo->itemText(14), QStringLiteral("None"));
+    QStringList texts;
+    for (int i : { 0, 10, 11, 12, 13, 14 })
+        texts << combo->itemText(i);
+    QCOMPARE(texts, QString("Base Color,Diffuse,Wood,Stone,Custom,None").split(','));
     QCOMPARE(combo->currentIndex(), 13);
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Custom);
     QVERIFY(!combo->IgnoreWheelEvent());
-    QCOMPARE(combo->focusPolicy(), Qt::StrongFocus);
     QCOMPARE(combo->width(), 102);
-    QCOMPARE(combo->sizePolicy().horizontalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(combo->sizePolicy().controlType(), QSizePolicy::ComboBox);
     // Preview, drop-down, name, in that order.
     QCOMPARE(w.layout()->count(), 3);
     QCOMPARE(w.layout()->itemAt(0)->widget(), w.GetImageLabel());
     QCOMPARE(w.layout()->itemAt(1)->widget(), combo);
-    QCOMPARE(w.layout()->itemAt(2)->widget(), w.GetNameLabel());
     QCOMPARE(w.layout()->itemAt(0)->alignment(), Qt::AlignHCenter);
 }
 
@@ -223,7 +186,7 @@ void tst_QSbsImageWidget::missingChannelNames()
     // Initialised without drops: a dragged image file is not taken.
     QVERIFY(!w.acceptDrops());
     w.SetFileTypeFilter(QStringLiteral("png"));
-    const QString png = writePng(QStringLiteral("nodrop.png"), Qt::red);
+    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("nodrop.png"), Qt::red);
     SignalLog log(&w);
     QVERIFY(!dragAndDrop(&w, { png }));
     QVERIFY(log.lines.isEmpty());
@@ -241,15 +204,11 @@ void tst_QSbsImageWidget::chooseExternTextureByKeyboard()
     SignalLog log(&w);
     QTest::keyClick(combo, Qt::Key_Up); // custom -> Stone
     QCOMPARE(combo->currentIndex(), 12);
-    QCOMPARE(
-        log.lines,
-        (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Extern 4711 1 Stone") }));
+    QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Extern 4711 1 Stone" }));
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_ExternTexture);
     log.lines.clear();
     QTest::keyClick(combo, Qt::Key_Up); // Stone -> Wood
-    QCOMPARE(
-        log.lines,
-        (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Extern 4711 0 Wood") }));
+    QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Extern 4711 0 Wood" }));
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_ExternTexture);
     log.lines.clear();
     // Back down to the custom entry: only the change of channel, then the dialog request from
@@ -257,8 +216,7 @@ void tst_QSbsImageWidget::chooseExternTextureByKeyboard()
     QTest::keyClick(combo, Qt::Key_Down);
     QTest::keyClick(combo, Qt::Key_Down);
     QCOMPARE(combo->currentIndex(), 13);
-    QCOMPARE(log.lines.mid(2),
-             (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("OpenDialog 4711") }));
+    QCOMPARE(log.lines.mid(2), (QStringList { "ChannelChanged", "OpenDialog 4711" }));
 }
 
 void tst_QSbsImageWidget::chooseNoneAndChannel()
@@ -267,18 +225,25 @@ void tst_QSbsImageWidget::chooseNoneAndChannel()
     initFull(w);
     SignalLog log(&w);
     w.SetSelectedChannel(99999);
-    QCOMPARE(log.lines,
-             (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Remove 4711") }));
+    QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Remove 4711" }));
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
     log.lines.clear();
     w.SetSelectedChannel(3);
-    QCOMPARE(log.lines,
-             (QStringList { QStringLiteral("ChannelChanged"), QStringLiteral("Channel 4711 3") }));
+    QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Channel 4711 3" }));
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Metallic);
     log.lines.clear();
     // Back to custom by a change of index: the channel change only.
     w.SetSelectedChannel(99998);
-    QCOMPARE(log.lines, QStringList { QStringLiteral("ChannelChanged") });
+    QCOMPARE(log.lines, QStringList { "ChannelChanged" });
+
+    // Channels that do not exist change nothing.
+    w.SetSelectedChannel(4);
+    log.lines.clear();
+    for (int c : { -1, -99999, 15, 500, 99997, 100000 })
+        w.SetSelectedChannel(c);
+    QVERIFY(log.lines.isEmpty());
+    QCOMPARE(comboOf(w)->currentIndex(), 4);
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Height);
 }
 
 void tst_QSbsImageWidget::activateCurrentCustomEntry()
@@ -296,7 +261,7 @@ void tst_QSbsImageWidget::activateCurrentCustomEntry()
     const QRect rect = view->visualRect(view->model()->index(13, 0));
     QVERIFY(rect.isValid());
     QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, rect.center());
-    QTRY_COMPARE(log.lines, QStringList { QStringLiteral("OpenDialog 4711") });
+    QTRY_COMPARE(log.lines, QStringList { "OpenDialog 4711" });
     QCOMPARE(combo->currentIndex(), 13);
 }
 
@@ -305,12 +270,10 @@ void tst_QSbsImageWidget::selectedChannel_data()
     QTest::addColumn<int>("channel");
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("reported");
-    QTest::newRow("base color") << 0 << 0 << 0;
     QTest::newRow("diffuse") << 10 << 10 << 10;
     QTest::newRow("first extern by position") << 11 << 11 << 11;
     QTest::newRow("second extern by position") << 12 << 12 << 11;
     QTest::newRow("custom") << 99998 << 13 << 99998;
-    QTest::newRow("none") << 99999 << 14 << 99999;
 }
 
 void tst_QSbsImageWidget::selectedChannel()
@@ -326,19 +289,6 @@ void tst_QSbsImageWidget::selectedChannel()
     QCOMPARE(int(w.GetCurrentChannel()), reported);
 }
 
-void tst_QSbsImageWidget::selectOutOfRange()
-{
-    QSbsImageWidget w;
-    initFull(w);
-    w.SetSelectedChannel(4);
-    SignalLog log(&w);
-    for (int c : { -1, -99999, 15, 500, 99997, 100000 })
-        w.SetSelectedChannel(c);
-    QVERIFY(log.lines.isEmpty());
-    QCOMPARE(comboOf(w)->currentIndex(), 4);
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Height);
-}
-
 void tst_QSbsImageWidget::previewMouse()
 {
     QSbsImageWidget w;
@@ -349,80 +299,27 @@ void tst_QSbsImageWidget::previewMouse()
     SignalLog log(&w);
     QTest::mousePress(preview, Qt::RightButton);
     QTest::mouseRelease(preview, Qt::RightButton);
-    QCOMPARE(log.lines, QStringList { QStringLiteral("Menu 4711") });
+    QCOMPARE(log.lines, QStringList { "Menu 4711" });
     log.lines.clear();
     QTest::mousePress(preview, Qt::MiddleButton);
     QTest::mouseRelease(preview, Qt::MiddleButton);
-    QCOMPARE(log.lines, QStringList { QStringLiteral("Hover") });
+    QCOMPARE(log.lines, QStringList { "Hover" });
     log.lines.clear();
     QTest::mouseDClick(preview, Qt::LeftButton);
-    QVERIFY(log.lines.contains(QStringLiteral("OpenDialog 4711")));
     QCOMPARE(log.lines.count(QStringLiteral("OpenDialog 4711")), 1);
     log.lines.clear();
     QEvent enter(QEvent::Enter);
     QApplication::sendEvent(preview, &enter);
-    QCOMPARE(log.lines, QStringList { QStringLiteral("Hover") });
-}
+    QCOMPARE(log.lines, QStringList { "Hover" });
 
-void tst_QSbsImageWidget::previewDisabled()
-{
-    QSbsImageWidget w;
-    initFull(w);
-    w.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    // A disabled widget answers none of it.
+    log.lines.clear();
     w.setEnabled(false);
-    QLabel *preview = w.GetImageLabel();
-    SignalLog log(&w);
     QTest::mousePress(preview, Qt::RightButton);
     QTest::mouseRelease(preview, Qt::RightButton);
     QTest::mouseDClick(preview, Qt::LeftButton);
-    QEvent enter(QEvent::Enter);
     QApplication::sendEvent(preview, &enter);
     QVERIFY(log.lines.isEmpty());
-}
-
-// Sends a drag enter with these files to w and returns whether it was accepted.
-static bool sendDragEnter(QWidget *w, const QStringList &files)
-{
-    QMimeData mime;
-    QList<QUrl> urls;
-    for (const QString &file : files)
-        urls.append(QUrl::fromLocalFile(file));
-    mime.setUrls(urls);
-    QDragEnterEvent event(w->rect().center(), Qt::CopyAction | Qt::MoveAction, &mime,
-                          Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(w, &event);
-    return event.isAccepted();
-}
-
-static QMimeData *filesMime(const QStringList &files)
-{
-    auto *mime = new QMimeData;
-    QList<QUrl> urls;
-    for (const QString &file : files)
-        urls.append(QUrl::fromLocalFile(file));
-    mime->setUrls(urls);
-    return mime;
-}
-
-// Drags enterFiles onto w and drops dropData there, routed as Qt routes them: a drop reaches
-// only the widget that accepted the drag enter. Returns whether the drop was accepted (false
-// when no drop took place).
-static bool dragThenDrop(QWidget *w, const QStringList &enterFiles, const QMimeData &dropData)
-{
-    if (!sendDragEnter(w, enterFiles))
-        return false;
-    QDropEvent drop(w->rect().center(), Qt::CopyAction | Qt::MoveAction, &dropData, Qt::LeftButton,
-                    Qt::NoModifier);
-    drop.setAccepted(false);
-    QApplication::sendEvent(w, &drop);
-    return drop.isAccepted();
-}
-
-static bool dragAndDrop(QWidget *w, const QStringList &files)
-{
-    QScopedPointer<QMimeData> mime(filesMime(files));
-    return dragThenDrop(w, files, *mime);
 }
 
 void tst_QSbsImageWidget::dragEnter_data()
@@ -434,7 +331,6 @@ void tst_QSbsImageWidget::dragEnter_data()
     QTest::newRow("upper case") << "png;jpg;tga" << QStringList { "SHOT.PNG" } << true;
     QTest::newRow("part of a suffix") << "png;jpeg" << QStringList { "a.jpe" } << true;
     QTest::newRow("text") << "png;jpg;tga" << QStringList { "notes.txt" } << false;
-    QTest::newRow("no suffix") << "png;jpg;tga" << QStringList { "README" } << false;
     QTest::newRow("first counts") << "png" << QStringList { "notes.txt", "a.png" } << false;
     QTest::newRow("first png") << "png" << QStringList { "a.png", "notes.txt" } << true;
     QTest::newRow("empty filter") << "" << QStringList { "a.png" } << false;
@@ -452,14 +348,12 @@ void tst_QSbsImageWidget::dragEnter()
     QStringList files;
     for (const QString &name : names)
         files.append(m_dir.filePath(name));
-    QCOMPARE(sendDragEnter(&w, files), accepted);
+    QCOMPARE(VelaTest::dragEnter(&w, QPoint(1, 1), VelaTest::fileMime(files).get()), accepted);
 
     // Data without files is never accepted.
     QMimeData text;
     text.setText(QStringLiteral("a.png"));
-    QDragEnterEvent event(QPoint(1, 1), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&w, &event);
-    QVERIFY(!event.isAccepted());
+    QVERIFY(!VelaTest::dragEnter(&w, QPoint(1, 1), &text));
 }
 
 void tst_QSbsImageWidget::dropRules()
@@ -467,17 +361,14 @@ void tst_QSbsImageWidget::dropRules()
     QSbsImageWidget w;
     initFull(w);
     w.SetFileTypeFilter(QStringLiteral("png;jpg;tga"));
-    const QString png = writePng(QStringLiteral("albedo.png"), Qt::red);
-    const QString text = writeFile(QStringLiteral("notes.txt"), "not an image");
-    QVERIFY(!png.isEmpty() && !text.isEmpty());
+    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("albedo.png"), Qt::red);
+    QVERIFY(!png.isEmpty());
     SignalLog log(&w);
 
     QVERIFY(dragAndDrop(&w, { png }));
-    QCOMPARE(log.lines, QStringList { QStringLiteral("Drop 4711 albedo.png") });
+    QCOMPARE(log.lines, QStringList { "Drop 4711 albedo.png" });
     log.lines.clear();
 
-    // A wrong suffix is refused at the drag enter, so no drop takes place.
-    QVERIFY(!dragAndDrop(&w, { text }));
     // A file that does not exist is ignored at the drop.
     QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("missing.png")) }));
     // A folder is not a file.
@@ -486,29 +377,18 @@ void tst_QSbsImageWidget::dropRules()
     // The data changes between drag enter and drop: no files, a remote url.
     QMimeData none;
     none.setText(png);
-    QVERIFY(!dragThenDrop(&w, { png }, none));
+    QVERIFY(!dragAndDrop(&w, { png }, &none));
     QMimeData remote;
     remote.setUrls({ QUrl(QStringLiteral("https://example.org/a.png")) });
-    QVERIFY(!dragThenDrop(&w, { png }, remote));
+    QVERIFY(!dragAndDrop(&w, { png }, &remote));
     QVERIFY(log.lines.isEmpty());
     QCOMPARE(comboOf(w)->currentIndex(), 13);
     QVERIFY(previewPixmap(w).isNull());
-}
 
-void tst_QSbsImageWidget::dropOnDisabledWidget()
-{
-    QSbsImageWidget w;
-    initFull(w);
-    w.SetFileTypeFilter(QStringLiteral("png"));
-    const QString png = writePng(QStringLiteral("disabled.png"), Qt::green);
-    w.setEnabled(false);
-    SignalLog log(&w);
     // A disabled widget takes no drag, so no drop reaches it.
+    w.setEnabled(false);
     QVERIFY(!dragAndDrop(&w, { png }));
     QVERIFY(log.lines.isEmpty());
-    w.setEnabled(true);
-    QVERIFY(dragAndDrop(&w, { png }));
-    QCOMPARE(log.lines, QStringList { QStringLiteral("Drop 4711 disabled.png") });
 }
 
 void tst_QSbsImageWidget::droppedImagesThroughLoader()
@@ -523,8 +403,10 @@ void tst_QSbsImageWidget::droppedImagesThroughLoader()
         if (Vela::LoadImageFile(file, image))
             w.SetImage(image);
     });
-    const QString fake = writeFile(QStringLiteral("fake.png"), "plain text, not a png");
-    const QString empty = writeFile(QStringLiteral("empty.jpg"), QByteArray());
+    const QString fake =
+        VelaTest::writeFile(m_dir.path(), QStringLiteral("fake.png"), "plain text, not a png");
+    const QString empty =
+        VelaTest::writeFile(m_dir.path(), QStringLiteral("empty.jpg"), QByteArray());
     const QString huge = QStringLiteral(VELA_TEST_DATA_DIR "/sbs-huge-header.png");
     QVERIFY(QFileInfo::exists(huge));
     for (const QString &file : { fake, empty, huge }) {
@@ -536,7 +418,7 @@ void tst_QSbsImageWidget::droppedImagesThroughLoader()
     QVERIFY(!Vela::LoadImageFile(huge, untouched));
     QCOMPARE(untouched.size(), QSize(2, 2));
 
-    const QString png = writePng(QStringLiteral("good.png"), Qt::yellow);
+    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("good.png"), Qt::yellow);
     QVERIFY(dragAndDrop(&w, { png }));
     QCOMPARE(previewPixmap(w).toImage().pixelColor(8, 8), QColor(Qt::yellow));
     QCOMPARE(w.GetImageSize(), QSize(102, 102));
@@ -570,11 +452,9 @@ void tst_QSbsImageWidget::accessors()
     initFull(w);
     QCOMPARE(w.objectName(), QStringLiteral("qtSbsImageWidget"));
     QCOMPARE(w.GetUid(), uint32_t(kUid));
-    QCOMPARE(w.GetName(), QStringLiteral("Base Color Input"));
     QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Base Color Input"));
     QCOMPARE(w.GetNameLabel()->maximumWidth(), 102);
     QLabel *preview = w.GetImageLabel();
-    QCOMPARE(preview->minimumSize(), QSize(102, 102));
     QCOMPARE(preview->maximumSize(), QSize(102, 102));
     QVERIFY(preview->hasScaledContents());
     QCOMPARE(preview->styleSheet(), QStringLiteral("border: 1px solid #505050"));
@@ -582,11 +462,13 @@ void tst_QSbsImageWidget::accessors()
     QCOMPARE(preview->toolTip(), QStringLiteral("Double-click to load"));
     w.SetLabelColor(QStringLiteral("color: #82be0f"));
     QCOMPARE(w.GetNameLabel()->styleSheet(), QStringLiteral("color: #82be0f"));
-    QImage image(300, 200, QImage::Format_RGB32);
-    image.fill(Qt::darkCyan);
-    w.SetImage(image);
-    QCOMPARE(previewPixmap(w).size(), QSize(300, 200));
-    QCOMPARE(w.GetImageSize(), QSize(102, 102));
+
+    // Initialized again without channels: the drop-down goes, nothing is built twice.
+    QCOMPARE(w.Initialize(7, QStringLiteral("Again")).code(), 0u);
+    QVERIFY(!comboOf(w));
+    QCOMPARE(w.findChildren<QLabel *>().size(), 2);
+    QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Again"));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
 }
 
 void tst_QSbsImageWidget::signalSpyCarriesArguments()
@@ -594,10 +476,8 @@ void tst_QSbsImageWidget::signalSpyCarriesArguments()
     QSbsImageWidget w;
     initFull(w);
     QSignalSpy channel(&w, &QSbsImageWidget::ImportImageFromChannel);
-    QVERIFY(channel.isValid());
     w.SetSelectedChannel(7);
     QCOMPARE(channel.count(), 1);
-    QCOMPARE(channel.at(0).at(0).value<uint32_t>(), uint32_t(kUid));
     QCOMPARE(channel.at(0).at(1).value<Vela::ESubstanceUiChannel>(),
              Vela::SubstanceChannel_Emissive);
     // The string-based form of the signature names the host's types.
@@ -605,17 +485,6 @@ void tst_QSbsImageWidget::signalSpyCarriesArguments()
     QVERIFY(removed.isValid());
     w.SetSelectedChannel(99999);
     QCOMPARE(removed.count(), 1);
-}
-
-void tst_QSbsImageWidget::secondInitialize()
-{
-    QSbsImageWidget w;
-    initFull(w);
-    QCOMPARE(w.Initialize(7, QStringLiteral("Again")).code(), 0u);
-    QVERIFY(!comboOf(w));
-    QCOMPARE(w.findChildren<QLabel *>().size(), 2);
-    QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Again"));
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
 }
 
 VELA_TEST_CLASS(tst_QSbsImageWidget)
