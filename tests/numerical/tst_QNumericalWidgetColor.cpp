@@ -72,7 +72,7 @@ void tst_QNumericalWidgetColor::cleanup()
 
 void tst_QNumericalWidgetColor::runDialog(const std::function<void(QColorDialog *)> &action)
 {
-    ColorTest::runButtonSession(m_button, action);
+    ColorTest::runButtonSession(m_button, m_button->ColorDialogUi(), action);
 }
 
 void tst_QNumericalWidgetColor::construction()
