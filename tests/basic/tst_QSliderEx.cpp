@@ -164,6 +164,13 @@ void tst_QSliderEx::spanOfTwoToThe31IsNarrowed()
     const QImage withoutTicks = m_slider->grab().toImage();
     m_slider->setRange(0, 10);
     QVERIFY(m_slider->grab().toImage() != withoutTicks);
+    // Without a tick interval the styles tick every single step, or every page step when single
+    // steps are closer than three pixels: a page step of 1 over a billion is a billion strokes.
+    m_slider->setTickInterval(0);
+    m_slider->setRange(0, 1000000000);
+    m_slider->setSingleStep(10000000);
+    m_slider->setPageStep(1);
+    m_slider->grab();
 }
 
 VELA_TEST_CLASS(tst_QSliderEx)
