@@ -3,32 +3,9 @@
 #include "VelaEditRulesPrivate.h"
 
 #include <QPainter>
-#include <QStyle>
 #include <QStyleOptionSlider>
 
 using namespace Vela;
-
-namespace {
-
-// The interval at which Qt's styles draw tick marks: the tick interval when one is set, else the
-// single step, or the page step when single steps would be less than three pixels apart.
-qint64 StyleTickInterval(const QStyleOptionSlider &option, const QStyle *style,
-                         const QWidget *widget)
-{
-    qint64 interval = option.tickInterval;
-    if (interval <= 0) {
-        const int available = style->pixelMetric(QStyle::PM_SliderSpaceAvailable, &option, widget);
-        interval = option.singleStep;
-        if (QStyle::sliderPositionFromValue(option.minimum, option.maximum, option.singleStep,
-                                            available)
-                - QStyle::sliderPositionFromValue(option.minimum, option.maximum, 0, available)
-            < 3)
-            interval = option.pageStep;
-    }
-    return qMax<qint64>(interval, 1);
-}
-
-} // namespace
 
 QSliderEx::QSliderEx(QWidget *parent)
     : QSlider(parent)
@@ -135,17 +112,20 @@ void QSliderEx::paintEvent(QPaintEvent *event)
 {
     // The styles draw one tick mark per interval. Over a huge range (a logarithmic editor reaches
     // down to the smallest integer) that is billions of marks, all closer than a pixel: paint the
-    // slider without them then.
-    QStyleOptionSlider option;
-    initStyleOption(&option);
+    // slider without them then. Without a tick interval the styles tick every single step, or
+    // every page step when they find single steps too close (a test that overflows for odd
+    // ranges): count with the smaller of the two.
+    const qint64 interval =
+        tickInterval() > 0 ? tickInterval() : qMax(1, qMin(singleStep(), pageStep()));
     const qint64 length = orientation() == Qt::Horizontal ? width() : height();
     if (tickPosition() == NoTicks
-        || (qint64(maximum()) - qint64(minimum())) / StyleTickInterval(option, style(), this)
-            <= 4 * qMax<qint64>(length, 1)) {
+        || (qint64(maximum()) - qint64(minimum())) / interval <= 4 * qMax<qint64>(length, 1)) {
         QSlider::paintEvent(event);
         return;
     }
     QPainter painter(this);
+    QStyleOptionSlider option;
+    initStyleOption(&option);
     option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
     if (isSliderDown()) {
         option.activeSubControls = QStyle::SC_SliderHandle;
