@@ -5,7 +5,6 @@
 #include "QKdFKModifyTableManager.h"
 
 #include <QApplication>
-
 #include <QFile>
 #include <QTemporaryDir>
 
