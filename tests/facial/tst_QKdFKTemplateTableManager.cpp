@@ -82,7 +82,6 @@ private slots:
     void badThumbnails();
     void unusualFileNames();
     void missingFrameUsesThumbnail();
-    void userPicksTemplate();
 };
 
 void tst_QKdFKTemplateTableManager::initManager()
@@ -316,28 +315,6 @@ void tst_QKdFKTemplateTableManager::missingFrameUsesThumbnail()
     QCOMPARE(kIcon.size(), QSize(20, 10));
     QCOMPARE(kIcon.pixel(0, 0), qRgb(255, 0, 0));
     QCOMPARE(kIcon.pixel(19, 9), qRgb(255, 0, 0));
-}
-
-void tst_QKdFKTemplateTableManager::userPicksTemplate()
-{
-    QKdFKTemplateTableManager kTable;
-    kTable.InitManager(3, 62, 62);
-    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 2));
-    kTable.resize(400, 300);
-    kTable.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&kTable));
-
-    // A template cell takes the selection; an inert one does not.
-    QTest::mouseClick(kTable.viewport(), Qt::LeftButton, Qt::NoModifier,
-                      kTable.visualItemRect(kTable.item(1, 0)).center());
-    QCOMPARE(kTable.selectedItems().size(), 1);
-    const QTableWidgetItem *pkPicked = kTable.selectedItems().first();
-    QCOMPARE(kTable.GetSelectedExpTmpName(pkPicked->row(), pkPicked->column()),
-             QStringLiteral("Jaw.Open"));
-
-    QTest::mouseClick(kTable.viewport(), Qt::LeftButton, Qt::NoModifier,
-                      kTable.visualItemRect(kTable.item(1, 2)).center());
-    QVERIFY(!kTable.item(1, 2)->isSelected());
 }
 
 VELA_TEST_CLASS(tst_QKdFKTemplateTableManager)
