@@ -59,11 +59,7 @@ const SectionSpan kSpans[] = { { 0, 8 }, { 8, 7 }, { 15, 10 }, { 25, 39 }, { 64,
 
 QString WriteIni(const QTemporaryDir &kDir, const QByteArray &kContent)
 {
-    const QString strPath = kDir.filePath(QStringLiteral("facial.ini"));
-    QFile kFile(strPath);
-    if (kFile.open(QIODevice::WriteOnly))
-        kFile.write(kContent);
-    return strPath;
+    return VelaTest::writeFile(kDir.path(), QStringLiteral("facial.ini"), kContent);
 }
 
 // A complete file in which every channel key is "<Section>_<index>" with one range for all.
@@ -94,29 +90,31 @@ QVector<int> RangesOf(CKdFKModifyCellWidget *pkCell)
              pkCell->GetSpinMaximum() };
 }
 
-// The table's cell signals in order, as "begin 3", "change 3", "stop 3", "rename 3".
+// The table's signals in order, as "begin 3", "change 3", "stop 3", "rename 3", "entered 0,1".
 class TableRecorder : public QObject
 {
 public:
     explicit TableRecorder(QKdFKModifyTableManager *pkTable)
     {
-        connect(pkTable, &QKdFKModifyTableManager::BeginChangeCellSlider, this,
-                [this](int nID) { kEvents << QStringLiteral("begin %1").arg(nID); });
-        connect(pkTable, &QKdFKModifyTableManager::ChangeCellSlider, this,
-                [this](int nID) { kEvents << QStringLiteral("change %1").arg(nID); });
-        connect(pkTable, &QKdFKModifyTableManager::StopChangeCellSlider, this,
-                [this](int nID) { kEvents << QStringLiteral("stop %1").arg(nID); });
-        connect(pkTable, &QKdFKModifyTableManager::RenameCellSlider, this,
-                [this](int nID) { kEvents << QStringLiteral("rename %1").arg(nID); });
-        connect(
-            pkTable, &QKdFKModifyTableManager::MouseEntered, this,
-            [this](const QModelIndex &kIndex) {
-                kEvents << QStringLiteral("entered %1,%2").arg(kIndex.row()).arg(kIndex.column());
-            });
-        connect(pkTable, &QKdFKModifyTableManager::MouseLeft, this,
-                [this](const QModelIndex &kIndex) {
-                    kEvents << QStringLiteral("left %1,%2").arg(kIndex.row()).arg(kIndex.column());
-                });
+        const auto cell = [this](const char *pcWhat) {
+            return [this, pcWhat](int nID) {
+                kEvents << QStringLiteral("%1 %2").arg(pcWhat).arg(nID);
+            };
+        };
+        const auto index = [this](const char *pcWhat) {
+            return [this, pcWhat](const QModelIndex &kIndex) {
+                kEvents << QStringLiteral("%1 %2,%3")
+                               .arg(pcWhat)
+                               .arg(kIndex.row())
+                               .arg(kIndex.column());
+            };
+        };
+        connect(pkTable, &QKdFKModifyTableManager::BeginChangeCellSlider, this, cell("begin"));
+        connect(pkTable, &QKdFKModifyTableManager::ChangeCellSlider, this, cell("change"));
+        connect(pkTable, &QKdFKModifyTableManager::StopChangeCellSlider, this, cell("stop"));
+        connect(pkTable, &QKdFKModifyTableManager::RenameCellSlider, this, cell("rename"));
+        connect(pkTable, &QKdFKModifyTableManager::MouseEntered, this, index("entered"));
+        connect(pkTable, &QKdFKModifyTableManager::MouseLeft, this, index("left"));
     }
 
     QStringList kEvents;
