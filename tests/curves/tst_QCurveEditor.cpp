@@ -1,7 +1,6 @@
 #include "QCurveeditor.h"
 #include "VelaTest.h"
 
-#include <QAction>
 #include <QImage>
 #include <QtTest>
 

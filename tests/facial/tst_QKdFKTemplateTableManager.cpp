@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
-#include <QPainter>
 #include <QTemporaryDir>
 #include <QtTest>
 
