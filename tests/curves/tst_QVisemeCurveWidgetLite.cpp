@@ -39,19 +39,6 @@ QString selChanged(QPointF key)
     return QStringLiteral("SelKeyValueChanged %1").arg(float(key.y() * 100));
 }
 
-// Sends enter, move and drop of data at pos, as a drag from another widget does; returns whether
-// the drop was accepted.
-bool drop(QWidget *target, QMimeData *data, QPoint pos)
-{
-    QDragEnterEvent enter(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &enter);
-    QDragMoveEvent move(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &move);
-    QDropEvent dropEvent(pos, Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(target, &dropEvent);
-    return dropEvent.isAccepted();
-}
-
 QMimeData *mime(const char *format, const QString *text = nullptr)
 {
     auto *data = new QMimeData;
@@ -435,7 +422,7 @@ void tst_QVisemeCurveWidgetLite::dropListItemClaimsSlot()
 
     const QString name = QStringLiteral("EE");
     std::unique_ptr<QMimeData> data(mime(kListItemFormat, &name));
-    QVERIFY(drop(m_widget, data.get(), m_buttons.at(2)->geometry().center()));
+    QVERIFY(VelaTest::dropAt(m_widget, m_buttons.at(2)->geometry().center(), data.get()));
     QCOMPARE(m_buttons.at(2)->text(), name);
     QVERIFY(m_buttons.at(2)->isChecked());
     QCOMPARE(slot(2).m_strName, name);
@@ -477,7 +464,7 @@ void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot()
 
     // The button drag carries no text: the slot comes from the widget's own state.
     std::unique_ptr<QMimeData> data(mime(kButtonFormat));
-    QVERIFY(drop(m_widget, data.get(), QPoint(120, 120)));
+    QVERIFY(VelaTest::dropAt(m_widget, QPoint(120, 120), data.get()));
     QVERIFY(m_buttons.at(3)->text().isEmpty());
     QVERIFY(slot(3).m_strName.isEmpty());
     QVERIFY(slot(3).m_lstKeys.isEmpty());
@@ -520,7 +507,8 @@ void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing()
         data.setData(format, QByteArray());
     if (!text.isNull())
         data.setText(text);
-    const bool accepted = drop(m_widget, &data, m_buttons.at(button)->geometry().center());
+    const bool accepted =
+        VelaTest::dropAt(m_widget, m_buttons.at(button)->geometry().center(), &data);
     QVERIFY(accepted || format == QLatin1String(kButtonFormat));
     QVERIFY(m_buttons.at(button)->text().isEmpty());
     QVERIFY(!m_buttons.at(button)->isChecked());
