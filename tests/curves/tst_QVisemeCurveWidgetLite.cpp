@@ -77,7 +77,6 @@ class tst_QVisemeCurveWidgetLite : public QObject
 private slots:
     void init();
     void cleanup();
-    void defaults();
     void signalsInOrder();
     void initColours();
     void slotData();
@@ -102,7 +101,7 @@ private slots:
     void paintsEveryNamedSlot();
     void weightLabelStaysInside_data();
     void weightLabelStaysInside();
-    void timeCursor();
+    void beforeInitAndTimeCursor();
 
 private:
     CVisemeUIData &slot(int index) { return m_widget->GetVisemeUIData()[index]; }
@@ -148,17 +147,6 @@ void tst_QVisemeCurveWidgetLite::useSlot(int index, const QString &name, const K
     m_widget->AddVisemeData(index, name);
     slot(index).m_lstKeys = keys;
     m_widget->SetCurrentCheckButtonIndex(index);
-}
-
-void tst_QVisemeCurveWidgetLite::defaults()
-{
-    // Before Init nothing is drawn and presses do nothing.
-    QVisemeCurveWidgetLite widget;
-    widget.resize(200, 100);
-    widget.AddVisemeData(0, QStringLiteral("AA"));
-    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
-    QVERIFY(widget.GetVisemeUIData()[0].m_lstKeys.isEmpty());
-    QVERIFY(!widget.grab().isNull());
 }
 
 void tst_QVisemeCurveWidgetLite::signalsInOrder()
@@ -581,10 +569,16 @@ void tst_QVisemeCurveWidgetLite::weightLabelStaysInside()
     QCOMPARE(darkPixels(image, left) + darkPixels(image, right), 0);
 }
 
-void tst_QVisemeCurveWidgetLite::timeCursor()
+void tst_QVisemeCurveWidgetLite::beforeInitAndTimeCursor()
 {
     QVisemeCurveWidgetLite bare;
     bare.resize(300, 200);
+    // Before Init nothing is drawn and presses do nothing.
+    bare.AddVisemeData(0, QStringLiteral("AA"));
+    QTest::mouseClick(&bare, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+    QVERIFY(bare.GetVisemeUIData()[0].m_lstKeys.isEmpty());
+    QVERIFY(!bare.grab().isNull());
+
     bare.Init();
     // No length yet: no cursor, and no trouble.
     QImage image = bare.grab().toImage();
