@@ -71,45 +71,57 @@ void tst_EditTrackingRules::initTestCase()
 void tst_EditTrackingRules::wheelAndFocusPolicyFollowFocus_data()
 {
     QTest::addColumn<ControlFactory>("create");
-    QTest::newRow("QSpinBoxEx") << intSpin(0, 99);
-    QTest::newRow("QDoubleSpinBoxEx") << doubleSpin(0, 99);
+    QTest::addColumn<bool>("takesWheel");
+    QTest::newRow("QSpinBoxEx") << intSpin(0, 99) << true;
+    QTest::newRow("QDoubleSpinBoxEx") << doubleSpin(0, 99) << true;
     QTest::newRow("QSliderEx") << ControlFactory([](QWidget *p) {
         auto *slider = new QSliderEx(Qt::Horizontal, p);
         slider->setFocusPolicy(Qt::StrongFocus);
         slider->SetValue(5);
         return slider;
-    });
+    }) << true;
     QTest::newRow("QDialEx") << ControlFactory([](QWidget *p) {
         auto *dial = new QDialEx(p);
         dial->setValue(5);
         return dial;
-    });
-    QTest::newRow("QComboBoxEx") << ControlFactory([](QWidget *p) {
-        auto *combo = new QComboBoxEx(p);
-        combo->addItems({ "a", "b", "c", "d", "e", "f", "g" });
-        combo->setCurrentIndex(3);
-        return combo;
-    });
+    }) << true;
+    const auto combo = [](bool ignoreWheel) {
+        return ControlFactory([=](QWidget *p) {
+            auto *combo = new QComboBoxEx(p);
+            combo->addItems({ "a", "b", "c", "d", "e", "f", "g" });
+            combo->setCurrentIndex(3);
+            combo->setProperty("ignoreWheelEvent", ignoreWheel);
+            return combo;
+        });
+    };
+    QTest::newRow("QComboBoxEx") << combo(false) << true;
+    QTest::newRow("QComboBoxEx ignoring the wheel") << combo(true) << false;
 }
 
 // Over an unfocused control the wheel belongs to the scroll area behind it; a focused control
-// takes the wheel focus too and gives it back on leaving.
+// takes the wheel focus too and gives it back on leaving. A combo box told to ignore the wheel
+// never changes on it.
 void tst_EditTrackingRules::wheelAndFocusPolicyFollowFocus()
 {
     QFETCH(ControlFactory, create);
+    QFETCH(bool, takesWheel);
     BasicTest::FocusWindow window;
     QWidget *control = window.add(create(&window));
     QCOMPARE(control->focusPolicy(), Qt::StrongFocus);
     QVERIFY(window.showWithFocusElsewhere());
 
+    // Whether the wheel was accepted, where the control takes part in the rule.
+    const auto wheel = [&](int notches) {
+        return VelaTest::wheel(control, notches) || !takesWheel;
+    };
     const int before = currentValue(control);
-    QVERIFY(!VelaTest::wheel(control, 1));
+    QCOMPARE(wheel(1), !takesWheel);
     QCOMPARE(currentValue(control), before);
 
     QVERIFY(window.focus(control));
     QCOMPARE(control->focusPolicy(), Qt::WheelFocus);
-    QVERIFY(VelaTest::wheel(control, -1));
-    QVERIFY(currentValue(control) != before);
+    QVERIFY(wheel(-1));
+    QCOMPARE(currentValue(control) != before, takesWheel);
     QVERIFY(window.focus(window.other));
     QCOMPARE(control->focusPolicy(), Qt::StrongFocus);
 }

@@ -14,7 +14,6 @@ private slots:
     void dragSteps_data();
     void dragSteps();
     void onlyALeftDragSteps();
-    void stepsStayInRange();
     void displayedDecimals();
 
 private:
@@ -82,25 +81,6 @@ void tst_QMouseSpinBox::onlyALeftDragSteps()
     QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, start);
     mouseMove(&box, start + QPoint(0, 8));
     QCOMPARE(box.value(), 4.0);
-}
-
-void tst_QMouseSpinBox::stepsStayInRange()
-{
-    QMouseSpinBox box;
-    box.resize(120, 30);
-    box.setRange(0.0, 1.0);
-    box.setSingleStep(0.4);
-    box.setValue(0.5);
-    const QPoint start = textPoint(box);
-
-    QTest::mousePress(&box, Qt::LeftButton, Qt::NoModifier, start);
-    for (int i = 1; i <= 4; ++i)
-        mouseMove(&box, start + QPoint(0, -i));
-    QCOMPARE(box.value(), 1.0);
-    for (int i = 1; i <= 6; ++i)
-        mouseMove(&box, start + QPoint(0, i));
-    QCOMPARE(box.value(), 0.0);
-    QTest::mouseRelease(&box, Qt::LeftButton, Qt::NoModifier, start);
 }
 
 // The shown digits are independent of decimals(), which still does the rounding.

@@ -25,11 +25,10 @@ QPixmap solidPixmap(const QSize &size, const QColor &color)
     return pixmap;
 }
 
-// Exposes the protected hit tests.
+// Exposes the protected hit test.
 class ProbeButton : public QTransToolBtn
 {
 public:
-    using QTransToolBtn::hitButton;
     using QTransToolBtn::IsInTransArea;
     using QTransToolBtn::QTransToolBtn;
 };
@@ -89,11 +88,9 @@ class tst_QTransToolBtn : public QObject
 
 private slots:
     void init();
-    void transparentArea_data();
-    void transparentArea();
+    void clicks_data();
+    void clicks();
     void statePixmaps();
-    void forwardedClicks_data();
-    void forwardedClicks();
     void mouseEventsGoToParent();
     void doubleClickSignals();
     void painting_data();
@@ -105,34 +102,53 @@ void tst_QTransToolBtn::init()
     QCursor::setPos(-1000, -1000);
 }
 
-void tst_QTransToolBtn::transparentArea_data()
+// The clickable area is the opaque part of the image, or the whole button without a mask; a
+// click there names and toggles the button, a right click only names it.
+void tst_QTransToolBtn::clicks_data()
 {
     QTest::addColumn<QPixmap>("image");
     QTest::addColumn<QPoint>("point");
-    QTest::addColumn<bool>("transparent");
+    QTest::addColumn<bool>("visible");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<bool>("accepted");
     const QPixmap ellipse = ellipsePixmap(QSize(40, 40), Qt::red);
-    QTest::newRow("centre of the ellipse") << ellipse << QPoint(20, 20) << false;
-    QTest::newRow("corner of the image") << ellipse << QPoint(1, 1) << true;
-    QTest::newRow("beyond the image, inside the button") << ellipse << QPoint(50, 50) << false;
-    QTest::newRow("outside the button") << ellipse << QPoint(-1, 20) << true;
-    QTest::newRow("past the button's right edge") << ellipse << QPoint(60, 20) << true;
+    QTest::newRow("centre of the ellipse") << ellipse << QPoint(20, 20) << true << true << true;
+    QTest::newRow("corner of the image") << ellipse << QPoint(1, 1) << true << true << false;
+    QTest::newRow("beyond the image") << ellipse << QPoint(50, 50) << true << true << true;
+    QTest::newRow("outside the button") << ellipse << QPoint(-1, 20) << true << true << false;
+    QTest::newRow("past the right edge") << ellipse << QPoint(60, 20) << true << true << false;
     QTest::newRow("image without alpha")
-        << solidPixmap(QSize(40, 40), Qt::darkGreen) << QPoint(1, 1) << false;
-    QTest::newRow("no icon") << QPixmap() << QPoint(3, 3) << false;
+        << solidPixmap(QSize(40, 40), Qt::darkGreen) << QPoint(1, 1) << true << true << true;
+    QTest::newRow("no icon") << QPixmap() << QPoint(3, 3) << true << true << true;
+    QTest::newRow("hidden") << ellipse << QPoint(20, 20) << false << true << false;
+    QTest::newRow("disabled") << ellipse << QPoint(20, 20) << true << false << false;
 }
 
-void tst_QTransToolBtn::transparentArea()
+void tst_QTransToolBtn::clicks()
 {
     QFETCH(QPixmap, image);
     QFETCH(QPoint, point);
-    QFETCH(bool, transparent);
-    ProbeButton button;
-    button.resize(60, 60);
-    button.setIconSize(QSize(40, 40));
-    if (!image.isNull())
-        button.setIcon(QIcon(image));
-    QCOMPARE(button.IsInTransArea(point), transparent);
-    QCOMPARE(button.hitButton(point), !transparent);
+    QFETCH(bool, visible);
+    QFETCH(bool, enabled);
+    QFETCH(bool, accepted);
+
+    IconButtonWindow window;
+    QTransToolBtn &button = window.button;
+    button.setIcon(QIcon(image));
+    button.setVisible(visible);
+    button.setEnabled(enabled);
+    QVERIFY(window.show());
+    QSignalSpy toggled(&button, &QAbstractButton::toggled);
+    const QString name = accepted ? QStringLiteral("jaw") : QString();
+
+    QCOMPARE(button.IsMouseClickAction(point), accepted);
+    QCOMPARE(button.DoMouseRightClickAction(button.mapToGlobal(point)), name);
+    QVERIFY(!button.isChecked());
+    QCOMPARE(button.DoMouseClickAction(button.mapToGlobal(point)), name);
+    QCOMPARE(button.isChecked(), accepted);
+    QCOMPARE(toggled.count(), accepted ? 1 : 0);
+    button.DoMouseClickAction(button.mapToGlobal(point));
+    QVERIFY(!button.isChecked());
 }
 
 // Pixmap sets are owned (raw) or shared; the current state picks the set, whose first pixmap
@@ -162,48 +178,6 @@ void tst_QTransToolBtn::statePixmaps()
         QVERIFY(!button.IsInTransArea(QPoint(1, 1)));
     }
     QCOMPARE(shared.use_count(), 1L);
-}
-
-void tst_QTransToolBtn::forwardedClicks_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<bool>("visible");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("opaque") << QPoint(20, 20) << true << true << true;
-    QTest::newRow("transparent") << QPoint(2, 2) << true << true << false;
-    QTest::newRow("outside") << QPoint(80, 20) << true << true << false;
-    QTest::newRow("hidden") << QPoint(20, 20) << false << true << false;
-    QTest::newRow("disabled") << QPoint(20, 20) << true << false << false;
-}
-
-void tst_QTransToolBtn::forwardedClicks()
-{
-    QFETCH(QPoint, point);
-    QFETCH(bool, visible);
-    QFETCH(bool, enabled);
-    QFETCH(bool, accepted);
-
-    IconButtonWindow window;
-    QTransToolBtn &button = window.button;
-    button.setVisible(visible);
-    button.setEnabled(enabled);
-    QVERIFY(window.show());
-    QSignalSpy toggled(&button, &QAbstractButton::toggled);
-
-    QCOMPARE(button.IsMouseClickAction(point), accepted);
-    // A right click names the button but does not toggle it.
-    QCOMPARE(button.DoMouseRightClickAction(button.mapToGlobal(point)),
-             accepted ? QStringLiteral("jaw") : QString());
-    QVERIFY(!button.isChecked());
-    const QString name = button.DoMouseClickAction(button.mapToGlobal(point));
-    QCOMPARE(name, accepted ? QStringLiteral("jaw") : QString());
-    QCOMPARE(button.isChecked(), accepted);
-    QCOMPARE(toggled.count(), accepted ? 1 : 0);
-
-    // A second click toggles back.
-    button.DoMouseClickAction(button.mapToGlobal(point));
-    QVERIFY(!button.isChecked());
 }
 
 // The parent decides which button a click belongs to: an enabled button passes every mouse event
