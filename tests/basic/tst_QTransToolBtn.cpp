@@ -242,11 +242,9 @@ void tst_QTransToolBtn::painting_data()
     QTest::newRow("hovered") << false << false << true << true << 1 << 2;
     QTest::newRow("pressed") << false << true << true << true << 2 << 2;
     QTest::newRow("checked") << true << false << false << true << 3 << 1;
-    QTest::newRow("checked hovered") << true << false << true << true << 4 << 3;
     QTest::newRow("checked pressed") << true << true << true << true << 5 << 3;
     QTest::newRow("checked pressed, not hovered") << true << true << false << true << 5 << 1;
     QTest::newRow("disabled under the cursor") << false << false << true << false << 0 << 4;
-    QTest::newRow("checked, disabled under the cursor") << true << false << true << false << 3 << 5;
 }
 
 void tst_QTransToolBtn::painting()
