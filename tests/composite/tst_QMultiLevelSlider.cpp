@@ -73,7 +73,6 @@ private slots:
     void dragging_data();
     void dragging();
     void callbacks();
-    void fixedAndUnselectableIndicators();
     void stackedEndsPickFirst();
     void upperMiddleRaisesTrack();
     void disabledPainting();
@@ -304,7 +303,7 @@ void tst_QMultiLevelSlider::dragging_data()
     QTest::addColumn<int>("minimum");
     QTest::addColumn<QList<int>>("initial");
     QTest::addColumn<int>("mode"); // 0 ordered, 1 free order, 2 middle mode
-    QTest::addColumn<int>("unconstrained"); // the index of an unconstrained indicator, or -1
+    QTest::addColumn<QString>("flags"); // per indicator: u unconstrained, f fixed, n not selectable
     QTest::addColumn<int>("middleValue"); // set with the ratio update before dragging, or 0
     QTest::addColumn<QList<QPoint>>("drags"); // (index, x to drag to)
     QTest::addColumn<QList<int>>("expected");
@@ -312,17 +311,20 @@ void tst_QMultiLevelSlider::dragging_data()
     // The track runs from x = 8 over 200 pixels of 50 each; the minimum gap between ordered
     // neighbours is round(9 / 200 * 10000) = 450, and one in middle mode.
     const auto row = [](const char *name, QList<int> initial, int mode, QList<QPoint> drags,
-                        QList<int> expected, int unconstrained = -1, int minimum = 0,
+                        QList<int> expected, const char *flags = "", int minimum = 0,
                         int middleValue = 0) {
-        QTest::newRow(name) << minimum << initial << mode << unconstrained << middleValue << drags
+        QTest::newRow(name) << minimum << initial << mode << QString(flags) << middleValue << drags
                             << expected;
     };
     row("stops a gap below the next", { 0, 5000 }, 0, { { 0, 216 } }, { 4550, 5000 });
     row("stops a gap above the previous", { 4000, 5000 }, 0, { { 1, 0 } }, { 4000, 4450 });
-    row("measured from zero, not the minimum", { 5000 }, 0, { { 0, 0 } }, { 0 }, -1, 100);
-    row("one pixel is 50", { 5000 }, 0, { { 0, 8 + 120 } }, { 6000 }, -1, 100);
+    row("measured from zero, not the minimum", { 5000 }, 0, { { 0, 0 } }, { 0 }, "", 100);
+    row("one pixel is 50", { 5000 }, 0, { { 0, 8 + 120 } }, { 6000 }, "", 100);
     row("passes an unconstrained one", { 0, 5000, 9000 }, 0, { { 0, 216 } }, { 8550, 5000, 9000 },
-        1);
+        ".u");
+    row("a fixed one stays", { 1000, 5000, 9000 }, 0, { { 0, 150 } }, { 1000, 5000, 9000 }, "f");
+    row("an unselectable one stays", { 1000, 5000, 9000 }, 0, { { 2, 20 } }, { 1000, 5000, 9000 },
+        "..n");
     row("free order passes neighbours", { 6000, 2000 }, 1, { { 1, 8 + 190 } }, { 6000, 9500 });
     row("middle follows the first", { 0, 4000, 8000 }, 2, { { 0, 8 + 40 } }, { 2000, 5000, 8000 });
     row("middle pushes the first back", { 0, 4000, 8000 }, 2, { { 0, 8 + 40 }, { 0, 216 } },
@@ -334,7 +336,7 @@ void tst_QMultiLevelSlider::dragging_data()
     row("middle stays between the ends", { 0, 4000, 8000 }, 2, { { 0, 8 + 40 }, { 1, 0 } },
         { 2000, 2000, 8000 });
     row("ratio from SetIndicatorValue", { 2000, 3000, 8000 }, 2, { { 2, 8 + 180 } },
-        { 2000, 3750, 9000 }, -1, 0, 3500);
+        { 2000, 3750, 9000 }, "", 0, 3500);
 }
 
 void tst_QMultiLevelSlider::dragging()
@@ -342,14 +344,17 @@ void tst_QMultiLevelSlider::dragging()
     QFETCH(int, minimum);
     QFETCH(QList<int>, initial);
     QFETCH(int, mode);
-    QFETCH(int, unconstrained);
+    QFETCH(QString, flags);
     QFETCH(int, middleValue);
     QFETCH(QList<QPoint>, drags);
     QFETCH(QList<int>, expected);
 
     Indicators list = indicators(initial);
-    if (unconstrained >= 0)
-        list[unconstrained].bUnconstrained = true;
+    for (int i = 0; i < flags.size(); ++i) {
+        list[i].bUnconstrained = flags.at(i) == QLatin1Char('u');
+        list[i].bFixed = flags.at(i) == QLatin1Char('f');
+        list[i].bSelectable = flags.at(i) != QLatin1Char('n');
+    }
     QVERIFY(init(minimum, minimum + 10000, list, mode == 1, mode == 2));
     if (middleValue)
         QVERIFY(m_slider->SetIndicatorValue(1, middleValue, true).succeeded());
@@ -357,7 +362,9 @@ void tst_QMultiLevelSlider::dragging()
     for (const QPoint &d : drags)
         drag(d.x(), d.y());
     QCOMPARE(values(initial.size()), expected);
-    QCOMPARE(m_slider->GetSelectedIndicator(), (unsigned long long)drags.last().x());
+    const int last = drags.last().x();
+    const bool selectable = last >= flags.size() || flags.at(last) != QLatin1Char('n');
+    QCOMPARE(m_slider->GetSelectedIndicator(), selectable ? unsigned(last) : 0ull);
 }
 
 void tst_QMultiLevelSlider::callbacks()
@@ -404,31 +411,6 @@ void tst_QMultiLevelSlider::callbacks()
     QVERIFY(calls.isEmpty());
     QCOMPARE(m_slider->GetSelectedIndicator(), 1ull);
     QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
-}
-
-void tst_QMultiLevelSlider::fixedAndUnselectableIndicators()
-{
-    Indicators list = indicators({ 1000, 5000, 9000 });
-    list[0].bFixed = true;
-    list[2].bSelectable = false;
-    QVERIFY(init(0, 10000, list, false, false));
-    show(217);
-    QList<unsigned long long> selected;
-    int moves = 0;
-    m_slider->SetIndicatorSelecteChangeSignalInterface(
-        [&](unsigned long long i) { selected << i; });
-    m_slider->SetIndicatorMoveSignalInterface([&](unsigned long long) { ++moves; });
-
-    drag(0, 150);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 1000);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
-    QCOMPARE(moves, 0);
-
-    drag(2, 20);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 9000);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
-    QCOMPARE(selected, QList<unsigned long long> {});
-    QCOMPARE(moves, 0);
 }
 
 void tst_QMultiLevelSlider::stackedEndsPickFirst()
