@@ -19,7 +19,6 @@ private slots:
     void logarithmicRange();
     void setValueEmitsValueOnce();
     void dragEmitsExponent();
-    void typingMovesSliderLogarithmically();
     void nonPositiveValuesGoToSliderMinimum();
     void rangesAndSteps();
     void editedMarkingInPositions();
@@ -82,6 +81,11 @@ void tst_QComboNonlinearDoubleSpinBox::logarithmicRange()
     QCOMPARE(m_slider->value(), -30);
     m_editor->SetValue(99.0);
     QCOMPARE(m_slider->value(), 199);
+
+    m_h->log.clear();
+    COMBO_TYPE_INTO(m_spin, "50");
+    QCOMPARE(m_slider->value(), 169); // 100 * log10(50) = 169.89...
+    QCOMPARE(m_h->log, (QStringList { "ValueChanged(50)", "EditFinished" }));
 }
 
 void tst_QComboNonlinearDoubleSpinBox::setValueEmitsValueOnce()
@@ -104,14 +108,6 @@ void tst_QComboNonlinearDoubleSpinBox::dragEmitsExponent()
     QCOMPARE(m_h->log.at(m_h->log.size() - 2), QStringLiteral("ValueChanged(-0.3)"));
 }
 
-void tst_QComboNonlinearDoubleSpinBox::typingMovesSliderLogarithmically()
-{
-    COMBO_TYPE_INTO(m_spin, "50");
-    QCOMPARE(m_editor->Value(), 50.0);
-    QCOMPARE(m_slider->value(), 169); // 100 * log10(50) = 169.89...
-    QCOMPARE(m_h->log, (QStringList { "ValueChanged(50)", "EditFinished" }));
-}
-
 void tst_QComboNonlinearDoubleSpinBox::nonPositiveValuesGoToSliderMinimum()
 {
     m_editor->SetIndependentSpin(true);
@@ -122,18 +118,13 @@ void tst_QComboNonlinearDoubleSpinBox::nonPositiveValuesGoToSliderMinimum()
     QCOMPARE(m_slider->value(), -200);
     QVERIFY(m_h->log.contains(QStringLiteral("ValueChanged(0)")));
 
-    m_editor->SetValue(3.0);
-    COMBO_TYPE_INTO(m_spin, "-2");
-    QCOMPARE(m_editor->Value(), -2.0);
-    QCOMPARE(m_slider->value(), -200);
-
     // SetValue has no guard of its own, yet the slider stays within its range.
     m_editor->SetValue(-1.0);
     QCOMPARE(m_slider->value(), -200);
 }
 
 // The slider steps one position whatever the steps asked; with the independent flag the editor's
-// range reads as exponents; the arrows compare the spin range with the slider's in values.
+// range reads as exponents; only the left arrow ever shows, for an independent spin minimum of 0.
 void tst_QComboNonlinearDoubleSpinBox::rangesAndSteps()
 {
     m_editor->SetPageStep(5.0);
