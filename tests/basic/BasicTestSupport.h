@@ -2,7 +2,7 @@
 #define BASICTESTSUPPORT_H
 
 // What the tests of the basic controls share: a window in which the focus can be taken away from
-// a control, and mouse drags as a user makes them.
+// a control, and a mouse drag as a user makes it.
 
 #include <QApplication>
 #include <QLineEdit>
@@ -10,6 +10,8 @@
 #include <QVBoxLayout>
 #include <QWidget>
 #include <QtTest>
+
+#include "VelaTest.h"
 
 namespace BasicTest {
 
@@ -39,19 +41,11 @@ public:
     }
 };
 
-// A mouse move with `buttons` held, delivered straight to the widget.
-inline void moveHeld(QWidget *widget, const QPoint &pos, Qt::MouseButtons buttons = Qt::LeftButton)
-{
-    QMouseEvent event(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
-                      Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-
 // Press at `from`, one move with the left button held, release at `to`.
 inline void drag(QWidget *widget, const QPoint &from, const QPoint &to)
 {
     QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
-    moveHeld(widget, to);
+    VelaTest::mouseMove(widget, to);
     QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 

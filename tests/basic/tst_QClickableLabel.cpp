@@ -13,7 +13,6 @@ class tst_QClickableLabel : public QObject
 private slots:
     void clicks_data();
     void clicks();
-    void doubleClick();
     void pressDoesNotSelectText();
 };
 
@@ -22,37 +21,23 @@ void tst_QClickableLabel::clicks_data()
     QTest::addColumn<Qt::MouseButton>("button");
     QTest::newRow("left") << Qt::LeftButton;
     QTest::newRow("right") << Qt::RightButton;
-    QTest::newRow("middle") << Qt::MiddleButton;
 }
 
+// Any button clicks on the press; a double-click adds doubleClicked and no second click.
 void tst_QClickableLabel::clicks()
 {
     QFETCH(Qt::MouseButton, button);
-    QClickableLabel label;
-    label.setText(QStringLiteral("Jaw"));
-    QSignalSpy clicked(&label, &QClickableLabel::clicked);
-    QSignalSpy doubleClicked(&label, &QClickableLabel::doubleClicked);
-
-    QTest::mousePress(&label, button);
-    QCOMPARE(clicked.count(), 1); // on the press, not on the release
-    QTest::mouseRelease(&label, button);
-    QCOMPARE(clicked.count(), 1);
-    QCOMPARE(doubleClicked.count(), 0);
-}
-
-void tst_QClickableLabel::doubleClick()
-{
     QClickableLabel label;
     QStringList events;
     connect(&label, &QClickableLabel::clicked, [&] { events << QStringLiteral("clicked"); });
     connect(&label, &QClickableLabel::doubleClicked,
             [&] { events << QStringLiteral("doubleClicked"); });
 
-    // The event sequence of a double-click: press, release, double-click, release.
-    QTest::mousePress(&label, Qt::LeftButton);
-    QTest::mouseRelease(&label, Qt::LeftButton);
-    QTest::mouseDClick(&label, Qt::LeftButton);
-    QTest::mouseRelease(&label, Qt::LeftButton);
+    QTest::mousePress(&label, button);
+    QCOMPARE(events, QStringList({ "clicked" }));
+    QTest::mouseRelease(&label, button);
+    QTest::mouseDClick(&label, button);
+    QTest::mouseRelease(&label, button);
     QCOMPARE(events, QStringList({ "clicked", "doubleClicked" }));
 }
 
@@ -64,9 +49,7 @@ void tst_QClickableLabel::pressDoesNotSelectText()
     label.resize(200, 30);
     label.show();
     QVERIFY(QTest::qWaitForWindowExposed(&label));
-
-    BasicTest::drag(&label, QPoint(2, label.height() / 2),
-                    QPoint(label.width() - 2, label.height() / 2));
+    BasicTest::drag(&label, QPoint(2, 15), QPoint(198, 15));
     QVERIFY(!label.hasSelectedText());
 }
 

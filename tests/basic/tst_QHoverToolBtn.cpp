@@ -34,19 +34,17 @@ void tst_QHoverToolBtn::enterAndLeave()
     QTRY_COMPARE(events, QStringList({ "hovered", "left" }));
 }
 
+// Either way round, setHovered reports a hover (never a leave) and sets the hover attribute.
 void tst_QHoverToolBtn::setHovered()
 {
     QHoverToolBtn button;
     QSignalSpy hovered(&button, &QHoverToolBtn::hovered);
     QSignalSpy left(&button, &QHoverToolBtn::left);
-
     button.setHovered(true);
-    QCOMPARE(hovered.count(), 1);
     QVERIFY(button.testAttribute(Qt::WA_Hover));
-
     button.setHovered(false);
-    QCOMPARE(hovered.count(), 2);
     QVERIFY(!button.testAttribute(Qt::WA_Hover));
+    QCOMPARE(hovered.count(), 2);
     QCOMPARE(left.count(), 0);
 }
 

@@ -30,11 +30,8 @@ class tst_QSliderEx : public QObject
 private slots:
     void init();
     void cleanup();
-    void programmaticValueIsNotAnEdit();
-    void dragRecordsOnRelease();
-    void draggedFlagOutlivesRelease();
-    void pagingClickRecords();
-    void keyChangeRecordsOnFocusOut();
+    void focusedEditsRecordOnFocusOut();
+    void mouseRecordsOnRelease();
     void dialRecordsOnlyChanges();
     void spanOfTwoToThe31IsNarrowed();
 
@@ -61,70 +58,47 @@ void tst_QSliderEx::cleanup()
     delete m_window;
 }
 
-void tst_QSliderEx::programmaticValueIsNotAnEdit()
+// Keys and the wheel record once on leaving; SetValue is no edit, even while focused.
+void tst_QSliderEx::focusedEditsRecordOnFocusOut()
 {
     QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
-    QSignalSpy values(m_slider, &QSlider::valueChanged);
     QVERIFY(BasicTest::FocusWindow::focus(m_slider));
     m_slider->SetValue(5);
-    QCOMPARE(values.count(), 1);
-    QVERIFY(BasicTest::FocusWindow::focus(m_other));
-    QCOMPARE(records.count(), 0);
-    QCOMPARE(m_slider->value(), 5);
-}
-
-void tst_QSliderEx::dragRecordsOnRelease()
-{
-    QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
-    const QPoint start = m_slider->handleCenter();
-    // A click on the handle without a move is not an edit.
-    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, start);
-    QCOMPARE(records.count(), 0);
-
-    BasicTest::drag(m_slider, start, start + QPoint(100, 0));
-    QVERIFY(m_slider->value() > 30);
-    QCOMPARE(records.count(), 1);
-    // Leaving afterwards records nothing more: the value was recorded on release.
-    QVERIFY(BasicTest::FocusWindow::focus(m_other));
-    QCOMPARE(records.count(), 1);
-}
-
-// After a drag, every release records again until a move while pressed off the handle.
-void tst_QSliderEx::draggedFlagOutlivesRelease()
-{
-    QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
-    BasicTest::drag(m_slider, m_slider->handleCenter(), m_slider->handleCenter() + QPoint(60, 0));
-    QCOMPARE(records.count(), 1);
-    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, m_slider->handleCenter());
-    QCOMPARE(records.count(), 2);
-
-    // A paging press moved while pressed: the flag is reset (paging itself still records).
-    const QPoint groove(m_slider->width() - 4, m_slider->height() / 2);
-    BasicTest::drag(m_slider, groove, groove - QPoint(1, 0));
-    QCOMPARE(records.count(), 3);
-    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, m_slider->handleCenter());
-    QCOMPARE(records.count(), 3);
-}
-
-void tst_QSliderEx::pagingClickRecords()
-{
-    QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
-    m_slider->SetValue(0);
-    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier,
-                      QPoint(m_slider->width() - 4, m_slider->height() / 2));
-    QCOMPARE(m_slider->value(), 10);
-    QCOMPARE(records.count(), 1);
-}
-
-void tst_QSliderEx::keyChangeRecordsOnFocusOut()
-{
-    QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
-    QVERIFY(BasicTest::FocusWindow::focus(m_slider));
     QTest::keyClick(m_slider, Qt::Key_Right);
     QVERIFY(VelaTest::wheel(m_slider, 1));
     QCOMPARE(records.count(), 0);
     QVERIFY(BasicTest::FocusWindow::focus(m_other));
     QCOMPARE(records.count(), 1);
+
+    QVERIFY(BasicTest::FocusWindow::focus(m_slider));
+    m_slider->SetValue(20);
+    QVERIFY(BasicTest::FocusWindow::focus(m_other));
+    QCOMPARE(records.count(), 1);
+    QCOMPARE(m_slider->value(), 20);
+}
+
+// A drag or a paging click records on release; after a drag every release records again, until
+// a move while pressed off the handle.
+void tst_QSliderEx::mouseRecordsOnRelease()
+{
+    QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
+    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, m_slider->handleCenter());
+    QCOMPARE(records.count(), 0);
+
+    BasicTest::drag(m_slider, m_slider->handleCenter(), m_slider->handleCenter() + QPoint(100, 0));
+    const int dragged = m_slider->value();
+    QVERIFY(dragged > 30);
+    QCOMPARE(records.count(), 1);
+    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, m_slider->handleCenter());
+    QCOMPARE(records.count(), 2);
+
+    const QPoint groove(m_slider->width() - 4, m_slider->height() / 2);
+    BasicTest::drag(m_slider, groove, groove - QPoint(1, 0));
+    QCOMPARE(m_slider->value(), dragged + 10);
+    QCOMPARE(records.count(), 3);
+    QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, m_slider->handleCenter());
+    QVERIFY(BasicTest::FocusWindow::focus(m_other));
+    QCOMPARE(records.count(), 3);
 }
 
 // The dial records a release only when the value changed since the last record.

@@ -25,11 +25,10 @@ QPixmap solidPixmap(const QSize &size, const QColor &color)
     return pixmap;
 }
 
-// Exposes the protected hit tests.
+// Exposes the protected hit test.
 class ProbeButton : public QTransToolBtn
 {
 public:
-    using QTransToolBtn::hitButton;
     using QTransToolBtn::IsInTransArea;
     using QTransToolBtn::QTransToolBtn;
 };
@@ -56,13 +55,12 @@ protected:
     }
 };
 
-// A shown 100 x 100 parent holding one 60 x 60 checkable button named "jaw" at (10, 10), showing
-// a 40 x 40 ellipse.
-template<class Parent = QWidget, class Button = QTransToolBtn>
+// A 100 x 100 parent holding one 60 x 60 checkable button named "jaw" at (10, 10), showing a
+// 40 x 40 ellipse.
 struct IconButtonWindow
 {
-    Parent parent;
-    Button button { &parent };
+    EventSink parent;
+    QTransToolBtn button { &parent };
 
     IconButtonWindow()
     {
@@ -90,23 +88,13 @@ class tst_QTransToolBtn : public QObject
 
 private slots:
     void init();
-    void defaults();
-    void transparentArea_data();
-    void transparentArea();
-    void multiStateMaskFollowsState();
-    void imageWithoutAlphaIsOpaque();
-    void forwardedClicks_data();
-    void forwardedClicks();
-    void rightClickDoesNotToggle();
-    void setCurrState();
+    void clicks_data();
+    void clicks();
+    void statePixmaps();
     void mouseEventsGoToParent();
-    void disabledButtonKeepsEvents();
     void doubleClickSignals();
-    void multiStatePainting_data();
-    void multiStatePainting();
-    void iconPainting_data();
-    void iconPainting();
-    void sharedAndOwnedPixmaps();
+    void painting_data();
+    void painting();
 };
 
 void tst_QTransToolBtn::init()
@@ -114,146 +102,89 @@ void tst_QTransToolBtn::init()
     QCursor::setPos(-1000, -1000);
 }
 
-void tst_QTransToolBtn::defaults()
+// The clickable area is the opaque part of the image, or the whole button without a mask; a
+// click there names and toggles the button, a right click only names it.
+void tst_QTransToolBtn::clicks_data()
 {
-    QTransToolBtn button;
-    QCOMPARE(button.GetCurrState(), 0);
-    QVERIFY(!button.isChecked());
-    QVERIFY(!button.SetCurrState(0)); // no states yet
-}
-
-void tst_QTransToolBtn::transparentArea_data()
-{
-    QTest::addColumn<QPoint>("point");
-    QTest::addColumn<bool>("transparent");
-    QTest::newRow("centre of the ellipse") << QPoint(20, 20) << false;
-    QTest::newRow("corner of the image") << QPoint(1, 1) << true;
-    QTest::newRow("edge of the image, outside the ellipse") << QPoint(39, 2) << true;
-    QTest::newRow("beyond the image, inside the button") << QPoint(50, 50) << false;
-    QTest::newRow("outside the button") << QPoint(-1, 20) << true;
-    QTest::newRow("past the button's right edge") << QPoint(60, 20) << true;
-}
-
-void tst_QTransToolBtn::transparentArea()
-{
-    QFETCH(QPoint, point);
-    QFETCH(bool, transparent);
-    IconButtonWindow<QWidget, ProbeButton> window;
-    ProbeButton &button = window.button;
-    QCOMPARE(button.IsInTransArea(point), transparent);
-    QCOMPARE(button.hitButton(point), !transparent);
-}
-
-void tst_QTransToolBtn::multiStateMaskFollowsState()
-{
-    ProbeButton button;
-    button.resize(40, 40);
-    // Only the mask of pixmap 0 counts; a short set is allowed (nothing is drawn for it).
-    button.AddStatusPixmap(
-        QVector<QPixmap *> { new QPixmap(ellipsePixmap(QSize(40, 40), Qt::red)) });
-    QVERIFY(!button.grab().isNull());
-    QVector<std::shared_ptr<QPixmap>> square;
-    for (int i = 0; i < 6; ++i)
-        square.append(std::make_shared<QPixmap>(solidPixmap(QSize(40, 40), Qt::blue)));
-    button.AddStatusPixmap(square);
-
-    QVERIFY(button.IsInTransArea(QPoint(1, 1)));
-    QVERIFY(!button.IsInTransArea(QPoint(20, 20)));
-    QVERIFY(button.SetCurrState(1));
-    QVERIFY(!button.IsInTransArea(QPoint(1, 1)));
-}
-
-void tst_QTransToolBtn::imageWithoutAlphaIsOpaque()
-{
-    ProbeButton button;
-    button.resize(30, 30);
-    button.setIconSize(QSize(30, 30));
-    button.setIcon(QIcon(solidPixmap(QSize(30, 30), Qt::darkGreen)));
-    QVERIFY(!button.IsInTransArea(QPoint(0, 0)));
-    QVERIFY(!button.IsInTransArea(QPoint(29, 29)));
-
-    ProbeButton empty; // no icon at all: every point inside the button counts
-    empty.resize(30, 30);
-    QVERIFY(!empty.IsInTransArea(QPoint(3, 3)));
-}
-
-void tst_QTransToolBtn::forwardedClicks_data()
-{
+    QTest::addColumn<QPixmap>("image");
     QTest::addColumn<QPoint>("point");
     QTest::addColumn<bool>("visible");
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("opaque") << QPoint(20, 20) << true << true << true;
-    QTest::newRow("transparent") << QPoint(2, 2) << true << true << false;
-    QTest::newRow("outside") << QPoint(80, 20) << true << true << false;
-    QTest::newRow("hidden") << QPoint(20, 20) << false << true << false;
-    QTest::newRow("disabled") << QPoint(20, 20) << true << false << false;
+    const QPixmap ellipse = ellipsePixmap(QSize(40, 40), Qt::red);
+    QTest::newRow("centre of the ellipse") << ellipse << QPoint(20, 20) << true << true << true;
+    QTest::newRow("corner of the image") << ellipse << QPoint(1, 1) << true << true << false;
+    QTest::newRow("beyond the image") << ellipse << QPoint(50, 50) << true << true << true;
+    QTest::newRow("outside the button") << ellipse << QPoint(-1, 20) << true << true << false;
+    QTest::newRow("past the right edge") << ellipse << QPoint(60, 20) << true << true << false;
+    QTest::newRow("image without alpha")
+        << solidPixmap(QSize(40, 40), Qt::darkGreen) << QPoint(1, 1) << true << true << true;
+    QTest::newRow("no icon") << QPixmap() << QPoint(3, 3) << true << true << true;
+    QTest::newRow("hidden") << ellipse << QPoint(20, 20) << false << true << false;
+    QTest::newRow("disabled") << ellipse << QPoint(20, 20) << true << false << false;
 }
 
-void tst_QTransToolBtn::forwardedClicks()
+void tst_QTransToolBtn::clicks()
 {
+    QFETCH(QPixmap, image);
     QFETCH(QPoint, point);
     QFETCH(bool, visible);
     QFETCH(bool, enabled);
     QFETCH(bool, accepted);
 
-    IconButtonWindow<> window;
+    IconButtonWindow window;
     QTransToolBtn &button = window.button;
+    button.setIcon(QIcon(image));
     button.setVisible(visible);
     button.setEnabled(enabled);
     QVERIFY(window.show());
     QSignalSpy toggled(&button, &QAbstractButton::toggled);
+    const QString name = accepted ? QStringLiteral("jaw") : QString();
 
     QCOMPARE(button.IsMouseClickAction(point), accepted);
-    const QString name = button.DoMouseClickAction(button.mapToGlobal(point));
-    QCOMPARE(name, accepted ? QStringLiteral("jaw") : QString());
+    QCOMPARE(button.DoMouseRightClickAction(button.mapToGlobal(point)), name);
+    QVERIFY(!button.isChecked());
+    QCOMPARE(button.DoMouseClickAction(button.mapToGlobal(point)), name);
     QCOMPARE(button.isChecked(), accepted);
     QCOMPARE(toggled.count(), accepted ? 1 : 0);
-
-    // A second click toggles back.
     button.DoMouseClickAction(button.mapToGlobal(point));
     QVERIFY(!button.isChecked());
 }
 
-void tst_QTransToolBtn::rightClickDoesNotToggle()
+// Pixmap sets are owned (raw) or shared; the current state picks the set, whose first pixmap
+// gives the mask. A short set is allowed, and so is a negative state (nothing drawn, all opaque).
+void tst_QTransToolBtn::statePixmaps()
 {
-    IconButtonWindow<> window;
-    QTransToolBtn &button = window.button;
-    QVERIFY(window.show());
+    auto shared = std::make_shared<QPixmap>(solidPixmap(QSize(40, 40), Qt::blue));
+    {
+        ProbeButton button;
+        button.resize(40, 40);
+        QVERIFY(!button.SetCurrState(0));
+        button.AddStatusPixmap(
+            QVector<QPixmap *> { new QPixmap(ellipsePixmap(QSize(40, 40), Qt::red)) });
+        QVERIFY(!button.grab().isNull());
+        button.AddStatusPixmap(QVector<std::shared_ptr<QPixmap>>(6, shared));
+        QCOMPARE(shared.use_count(), 7L);
 
-    QCOMPARE(button.DoMouseRightClickAction(button.mapToGlobal(QPoint(20, 20))),
-             QStringLiteral("jaw"));
-    QVERIFY(!button.isChecked());
-    QCOMPARE(button.DoMouseRightClickAction(button.mapToGlobal(QPoint(2, 2))), QString());
-    button.DoMouseMoveAction(QPoint()); // only repaints
-    QVERIFY(!button.isChecked());
-}
-
-void tst_QTransToolBtn::setCurrState()
-{
-    QTransToolBtn button;
-    button.resize(30, 30);
-    for (int i = 0; i < 2; ++i) {
-        QVector<std::shared_ptr<QPixmap>> state;
-        for (int j = 0; j < 6; ++j)
-            state.append(std::make_shared<QPixmap>(solidPixmap(QSize(30, 30), kStateColors[j])));
-        button.AddStatusPixmap(state);
+        QVERIFY(button.IsInTransArea(QPoint(1, 1)));
+        QVERIFY(!button.IsInTransArea(QPoint(20, 20)));
+        QVERIFY(!button.SetCurrState(2));
+        QCOMPARE(button.GetCurrState(), 0);
+        QVERIFY(button.SetCurrState(1));
+        QVERIFY(!button.IsInTransArea(QPoint(1, 1)));
+        QVERIFY(button.SetCurrState(-1));
+        QCOMPARE(button.GetCurrState(), -1);
+        QVERIFY(!button.grab().isNull());
+        QVERIFY(!button.IsInTransArea(QPoint(1, 1)));
     }
-    QVERIFY(!button.SetCurrState(2));
-    QCOMPARE(button.GetCurrState(), 0);
-    QVERIFY(button.SetCurrState(1));
-    QCOMPARE(button.GetCurrState(), 1);
-
-    // Negative states are accepted; the button then has nothing to draw and counts as opaque.
-    QVERIFY(button.SetCurrState(-1));
-    QCOMPARE(button.GetCurrState(), -1);
-    QVERIFY(!button.grab().isNull());
-    QVERIFY(button.IsMouseClickAction(QPoint(5, 5)) == button.isVisible());
+    QCOMPARE(shared.use_count(), 1L);
 }
 
+// The parent decides which button a click belongs to: an enabled button passes every mouse event
+// on and neither toggles nor clicks itself.
 void tst_QTransToolBtn::mouseEventsGoToParent()
 {
-    IconButtonWindow<EventSink> window;
+    IconButtonWindow window;
     QTransToolBtn &button = window.button;
     QVERIFY(window.show());
     QSignalSpy clicked(&button, &QAbstractButton::clicked);
@@ -263,9 +194,7 @@ void tst_QTransToolBtn::mouseEventsGoToParent()
     QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, opaque);
     QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, opaque);
     QTest::mouseDClick(&button, Qt::LeftButton, Qt::NoModifier, opaque);
-    QMouseEvent move(QEvent::MouseMove, opaque, button.mapToGlobal(opaque), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&button, &move);
+    VelaTest::mouseMove(&button, opaque);
 
     QCOMPARE(window.parent.received,
              QList<QEvent::Type>({ QEvent::MouseButtonPress, QEvent::MouseButtonRelease,
@@ -273,15 +202,10 @@ void tst_QTransToolBtn::mouseEventsGoToParent()
     QVERIFY(!button.isChecked());
     QCOMPARE(clicked.count(), 0);
     QCOMPARE(doubleClicked.count(), 0);
-}
 
-void tst_QTransToolBtn::disabledButtonKeepsEvents()
-{
-    IconButtonWindow<EventSink> window;
-    QTransToolBtn &button = window.button;
+    // A disabled button keeps its events, and still does not toggle.
     button.setEnabled(false);
-    QSignalSpy clicked(&button, &QAbstractButton::clicked);
-    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+    QTest::mouseClick(&button, Qt::LeftButton, Qt::NoModifier, opaque);
     QVERIFY(!button.isChecked());
     QCOMPARE(clicked.count(), 0);
 }
@@ -303,115 +227,67 @@ void tst_QTransToolBtn::doubleClickSignals()
     QCOMPARE(events, QStringList({ "left", "right" }));
 }
 
-void tst_QTransToolBtn::multiStatePainting_data()
+// The cursor over the opaque part hovers (a transparent corner does not); pressed wins over
+// hovered; a disabled button is neither. The index is into kStateColors: for the state pixmaps the
+// pixmap of the set, for the icon Normal, Selected or Disabled (times 2) plus On.
+void tst_QTransToolBtn::painting_data()
 {
     QTest::addColumn<bool>("checked");
     QTest::addColumn<bool>("pressed");
     QTest::addColumn<bool>("hovered");
     QTest::addColumn<bool>("enabled");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("idle") << false << false << false << true << 0;
-    QTest::newRow("hovered") << false << false << true << true << 1;
-    QTest::newRow("pressed") << false << true << true << true << 2;
-    QTest::newRow("checked") << true << false << false << true << 3;
-    QTest::newRow("checked hovered") << true << false << true << true << 4;
-    QTest::newRow("checked pressed") << true << true << true << true << 5;
-    QTest::newRow("checked pressed, not hovered") << true << true << false << true << 5;
-    QTest::newRow("disabled under the cursor") << false << false << true << false << 0;
-    QTest::newRow("checked, disabled under the cursor") << true << false << true << false << 3;
+    QTest::addColumn<int>("statePixmap");
+    QTest::addColumn<int>("iconPixmap");
+    QTest::newRow("idle") << false << false << false << true << 0 << 0;
+    QTest::newRow("hovered") << false << false << true << true << 1 << 2;
+    QTest::newRow("pressed") << false << true << true << true << 2 << 2;
+    QTest::newRow("checked") << true << false << false << true << 3 << 1;
+    QTest::newRow("checked pressed") << true << true << true << true << 5 << 3;
+    QTest::newRow("checked pressed, not hovered") << true << true << false << true << 5 << 1;
+    QTest::newRow("disabled under the cursor") << false << false << true << false << 0 << 4;
 }
 
-void tst_QTransToolBtn::multiStatePainting()
+void tst_QTransToolBtn::painting()
 {
     QFETCH(bool, checked);
     QFETCH(bool, pressed);
     QFETCH(bool, hovered);
     QFETCH(bool, enabled);
-    QFETCH(int, expected);
+    QFETCH(int, statePixmap);
+    QFETCH(int, iconPixmap);
 
-    EventSink parent;
-    parent.resize(100, 100);
-    QTransToolBtn button(&parent);
-    button.setGeometry(10, 10, 30, 30);
-    button.setCheckable(true);
-    QVector<QPixmap *> state;
-    for (const QColor &color : kStateColors)
-        state.append(new QPixmap(solidPixmap(QSize(30, 30), color)));
-    button.AddStatusPixmap(state);
-    button.setChecked(checked);
-    parent.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&parent));
-
-    if (pressed)
-        QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, QPoint(15, 15));
-    QCursor::setPos(button.mapToGlobal(hovered ? QPoint(15, 15) : QPoint(80, 80)));
-    button.setEnabled(enabled);
-    QCOMPARE(button.grab().toImage().pixelColor(15, 15), kStateColors[expected]);
-
-    if (pressed) {
-        QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, QPoint(15, 15));
-        QCOMPARE(button.grab().toImage().pixelColor(15, 15),
-                 kStateColors[expected - 2 + (hovered ? 1 : 0)]);
-    }
-}
-
-void tst_QTransToolBtn::iconPainting_data()
-{
-    QTest::addColumn<bool>("checked");
-    QTest::addColumn<bool>("overOpaque");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QColor>("expected");
-    QTest::newRow("normal off") << false << false << true << QColor(Qt::red);
-    QTest::newRow("normal on") << true << false << true << QColor(Qt::green);
-    QTest::newRow("selected off") << false << true << true << QColor(Qt::blue);
-    QTest::newRow("selected on") << true << true << true << QColor(Qt::yellow);
-    QTest::newRow("disabled off") << false << true << false << QColor(Qt::gray);
-    QTest::newRow("disabled on") << true << false << false << QColor(Qt::darkGray);
-}
-
-void tst_QTransToolBtn::iconPainting()
-{
-    QFETCH(bool, checked);
-    QFETCH(bool, overOpaque);
-    QFETCH(bool, enabled);
-    QFETCH(QColor, expected);
-
-    IconButtonWindow<> window;
+    IconButtonWindow window;
     QTransToolBtn &button = window.button;
     QIcon icon;
-    const QSize size(40, 40);
-    icon.addPixmap(ellipsePixmap(size, Qt::red), QIcon::Normal, QIcon::Off);
-    icon.addPixmap(ellipsePixmap(size, Qt::green), QIcon::Normal, QIcon::On);
-    icon.addPixmap(ellipsePixmap(size, Qt::blue), QIcon::Selected, QIcon::Off);
-    icon.addPixmap(ellipsePixmap(size, Qt::yellow), QIcon::Selected, QIcon::On);
-    icon.addPixmap(ellipsePixmap(size, Qt::gray), QIcon::Disabled, QIcon::Off);
-    icon.addPixmap(ellipsePixmap(size, Qt::darkGray), QIcon::Disabled, QIcon::On);
+    QVector<QPixmap *> state;
+    for (const QColor &color : kStateColors)
+        state.append(new QPixmap(ellipsePixmap(QSize(40, 40), color)));
+    int i = 0;
+    for (QIcon::Mode mode : { QIcon::Normal, QIcon::Selected, QIcon::Disabled }) {
+        for (QIcon::State on : { QIcon::Off, QIcon::On })
+            icon.addPixmap(*state.at(i++), mode, on);
+    }
     button.setIcon(icon);
     button.setChecked(checked);
-    button.setEnabled(enabled);
     QVERIFY(window.show());
 
-    // A point in the button but in the image's transparent corner does not count as hovering.
-    QCursor::setPos(button.mapToGlobal(overOpaque ? QPoint(20, 20) : QPoint(2, 2)));
-    const QImage shot = button.grab().toImage();
-    QCOMPARE(shot.pixelColor(20, 20), expected);
+    const QPoint centre(20, 20);
+    if (pressed)
+        QTest::mousePress(&button, Qt::LeftButton, Qt::NoModifier, centre);
+    QCursor::setPos(button.mapToGlobal(hovered ? centre : QPoint(2, 2)));
+    button.setEnabled(enabled);
+    QImage shot = button.grab().toImage();
+    QCOMPARE(shot.pixelColor(centre), kStateColors[iconPixmap]);
     // No frame or background of its own: the parent's background shows around the image.
-    const QColor background = window.parent.palette().color(QPalette::Window);
-    QCOMPARE(shot.pixelColor(1, 1), background);
-    QCOMPARE(shot.pixelColor(55, 55), background);
-    QCOMPARE(shot.pixelColor(0, 59), background);
-}
+    QCOMPARE(shot.pixelColor(1, 1), window.parent.palette().color(QPalette::Window));
 
-void tst_QTransToolBtn::sharedAndOwnedPixmaps()
-{
-    auto shared = std::make_shared<QPixmap>(solidPixmap(QSize(20, 20), Qt::red));
-    {
-        QTransToolBtn button;
-        button.AddStatusPixmap(QVector<std::shared_ptr<QPixmap>>(6, shared));
-        QCOMPARE(shared.use_count(), 7L);
-        QVERIFY(button.SetCurrState(0));
+    button.AddStatusPixmap(state);
+    QCOMPARE(button.grab().toImage().pixelColor(centre), kStateColors[statePixmap]);
+    if (pressed) {
+        QTest::mouseRelease(&button, Qt::LeftButton, Qt::NoModifier, centre);
+        QCOMPARE(button.grab().toImage().pixelColor(centre),
+                 kStateColors[statePixmap - 2 + (hovered ? 1 : 0)]);
     }
-    QCOMPARE(shared.use_count(), 1L);
 }
 
 VELA_TEST_CLASS(tst_QTransToolBtn)

@@ -2,17 +2,16 @@
 #define COMBOEDITORTESTSUPPORT_H
 
 // What the tests of the slider–spin-box editors share: dragging a slider's handle to an exact
-// position as a user does, double-clicking, typing into a spin box, and a folder holding the
-// arrow images that the editors look for in the current folder.
+// position as a user does, typing into a spin box, a window that logs what a host hears, the
+// double-click reset table, and a current folder for the arrow images.
 
 #include "QSliderEx.h"
+#include "VelaTest.h"
 
 #include <QAbstractSpinBox>
 #include <QApplication>
 #include <QDir>
-#include <QFile>
 #include <QLineEdit>
-#include <QMetaProperty>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
@@ -28,18 +27,13 @@ inline QStyleOptionSlider sliderOption(const QSlider *slider)
 {
     QStyleOptionSlider option;
     option.initFrom(slider);
-    option.subControls = QStyle::SC_None;
-    option.activeSubControls = QStyle::SC_None;
     option.orientation = slider->orientation();
     option.minimum = slider->minimum();
     option.maximum = slider->maximum();
     option.tickPosition = slider->tickPosition();
-    option.tickInterval = slider->tickInterval();
     option.upsideDown = slider->invertedAppearance();
     option.sliderPosition = slider->sliderPosition();
     option.sliderValue = slider->value();
-    option.singleStep = slider->singleStep();
-    option.pageStep = slider->pageStep();
     if (slider->orientation() == Qt::Horizontal)
         option.state |= QStyle::State_Horizontal;
     return option;
@@ -71,14 +65,6 @@ inline int dragDistanceTo(const QSlider *slider, int target)
     return -1;
 }
 
-// A mouse move with `buttons` held, delivered straight to the widget.
-inline void moveHeld(QWidget *widget, const QPoint &pos, Qt::MouseButtons buttons = Qt::LeftButton)
-{
-    QMouseEvent move(QEvent::MouseMove, pos, widget->mapToGlobal(pos), Qt::NoButton, buttons,
-                     Qt::NoModifier);
-    QApplication::sendEvent(widget, &move);
-}
-
 // Presses the left button on the handle, moves it in a few steps and releases it.
 inline void dragHandle(QSlider *slider, int distance)
 {
@@ -88,7 +74,7 @@ inline void dragHandle(QSlider *slider, int distance)
     QPoint to = from;
     for (int i = 1; i <= steps; ++i) {
         to = from + QPoint(distance * i / steps, 0);
-        moveHeld(slider, to);
+        VelaTest::mouseMove(slider, to);
     }
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
 }
@@ -132,23 +118,13 @@ public:
 
     bool write(const QString &name, const QByteArray &contents) const
     {
-        QFile file(m_dir.filePath(name));
-        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size();
+        return !VelaTest::writeFile(m_dir.path(), name, contents).isEmpty();
     }
 
 private:
     QTemporaryDir m_dir;
     QString m_previous;
 };
-
-// The names of the properties a class declares itself, in declaration order.
-inline QStringList propertyNames(const QMetaObject *meta)
-{
-    QStringList names;
-    for (int i = meta->propertyOffset(); i < meta->propertyCount(); ++i)
-        names << QLatin1String(meta->property(i).name());
-    return names;
-}
 
 // A shown, active window holding a line edit that has the focus and, below it, one editor whose
 // ValueChanged and EditFinished signals are logged in the order the host receives them.

@@ -11,70 +11,9 @@ class tst_QIntegerSliderWithRenameButton : public QObject
     Q_OBJECT
 
 private slots:
-    void initialState();
-    void formLayout();
     void disabledRenameButtonShowsDisabledIcon();
     void editorIsUsable();
 };
-
-void tst_QIntegerSliderWithRenameButton::initialState()
-{
-    QIntegerSliderWithRenameButton widget;
-    QCOMPARE(widget.GetNameLabel()->text(), QStringLiteral("name"));
-    QCOMPARE(widget.GetRenameButton()->minimumSize(), QSize(10, 10));
-    QCOMPARE(widget.GetRenameButton()->maximumSize(), QSize(10, 10));
-    QCOMPARE(widget.GetRenameButton()->iconSize(), QSize(10, 10));
-    QCOMPARE(widget.GetRenameButton()->toolTip(), QStringLiteral("Edit"));
-    QCOMPARE(widget.GetRenameButton()->text(), QStringLiteral("..."));
-    QVERIFY(widget.GetRenameButton()->autoRaise());
-
-    QComboSpinBox *editor = widget.GetSlider();
-    QCOMPARE(editor->Value(), 50);
-    QCOMPARE(editor->Minimum(), -50);
-    QCOMPARE(editor->Maximum(), 100);
-    QCOMPARE(editor->objectName(), QStringLiteral("qtCombospinbox"));
-    QCOMPARE(editor->baseSize(), QSize(0, 23));
-    QCOMPARE(widget.UI()->qtCombospinbox, editor);
-    QCOMPARE(widget.UI()->qtNameLabel, widget.GetNameLabel());
-    QCOMPARE(widget.UI()->qtRenameButton, widget.GetRenameButton());
-}
-
-void tst_QIntegerSliderWithRenameButton::formLayout()
-{
-    QIntegerSliderWithRenameButton widget;
-    Ui::IntegerSliderWithRenameButtonWidget *ui = widget.UI();
-    QCOMPARE(widget.objectName(), QStringLiteral("IntegerSliderWithRenameButtonWidget"));
-    QCOMPARE(widget.windowTitle(), QStringLiteral("Form"));
-    QCOMPARE(widget.size(), QSize(431, 70));
-    QCOMPARE(widget.minimumSize(), QSize(270, 20));
-    QCOMPARE(widget.maximumSize(), QSize(16777215, 120));
-    QCOMPARE(widget.sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(widget.sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(widget.layout(), ui->verticalLayout_2);
-    QCOMPARE(ui->verticalLayout_2->spacing(), 0);
-    const QMargins outer = ui->verticalLayout_2->contentsMargins();
-    QCOMPARE(outer.left(), 15);
-    QCOMPARE(outer.right(), 0);
-    QCOMPARE(outer.bottom(), 0);
-    QCOMPARE(ui->horizontalLayout->spacing(), 0);
-    QCOMPARE(ui->horizontalLayout->sizeConstraint(), QLayout::SetMinAndMaxSize);
-    QCOMPARE(ui->horizontalLayout->contentsMargins().right(), 0);
-    QCOMPARE(ui->horizontalLayout->indexOf(ui->qtNameLabel), 0);
-    QCOMPARE(ui->horizontalLayout->indexOf(ui->qtRenameButton), 1);
-    QCOMPARE(ui->qtNameLabel->maximumSize(), QSize(16777215, 12));
-    QCOMPARE(ui->qtNameLabel->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(ui->verticalWidget->layout(), ui->verticalLayout);
-    QCOMPARE(ui->verticalLayout->spacing(), 0);
-    QCOMPARE(ui->verticalLayout->contentsMargins(), QMargins(0, 0, 0, 0));
-    QCOMPARE(ui->verticalLayout->indexOf(ui->qtCombospinbox), 0);
-    QCOMPARE(ui->verticalLayout->count(), 2);
-    QVERIFY(ui->verticalLayout->itemAt(1)->spacerItem());
-    QCOMPARE(ui->verticalLayout->itemAt(1)->spacerItem()->sizePolicy().verticalPolicy(),
-             QSizePolicy::Expanding);
-    QCOMPARE(widget.Spacing(), 0);
-    widget.SetSpacing(6);
-    QCOMPARE(ui->verticalLayout_2->spacing(), 6);
-}
 
 void tst_QIntegerSliderWithRenameButton::disabledRenameButtonShowsDisabledIcon()
 {
@@ -95,6 +34,10 @@ void tst_QIntegerSliderWithRenameButton::editorIsUsable()
     widget.show();
     QVERIFY(QTest::qWaitForWindowActive(&widget));
     QComboSpinBox *editor = widget.GetSlider();
+    QCOMPARE(widget.GetNameLabel()->text(), QStringLiteral("name"));
+    QCOMPARE(editor->Minimum(), -50);
+    QCOMPARE(editor->Maximum(), 100);
+    QCOMPARE(editor->Value(), 50);
     QSignalSpy values(editor, &QComboSpinBox::ValueChanged);
     QSignalSpy finished(editor, &QComboSpinBox::EditFinished);
     QSignalSpy renames(widget.GetRenameButton(), &QToolButton::clicked);

