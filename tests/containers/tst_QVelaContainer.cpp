@@ -60,7 +60,7 @@ QTransToolBtn *addButton(QWidget *parent, const QString &name, const QRect &geom
     return button;
 }
 
-// Counts the events that reach QWidget's own handlers.
+// Counts the presses that reach QWidget's own handlers.
 class CountingContainer : public QVelaContainer
 {
 public:
@@ -91,14 +91,11 @@ class tst_QVelaContainer : public QObject
 private slots:
     void init();
     void cleanup();
-    void defaults();
     void buttonMap();
     void overlappingButtonsFirstNameWins();
-    void clickToggles();
-    void pressAndReleaseOnDifferentButtons();
+    void clicksToggle();
     void exclusiveMode();
-    void rightClick();
-    void doubleClick();
+    void rightAndDoubleClicks();
     void hiddenOrDisabledButtonsNeverTakeClicks_data();
     void hiddenOrDisabledButtonsNeverTakeClicks();
     void programmaticState();
@@ -106,30 +103,11 @@ private slots:
     void deletedButtonsLeaveTheMap();
 
 private:
-    void record(QVelaContainer *container);
-
     CountingContainer *m_container = nullptr;
     QTransToolBtn *m_a = nullptr;
     QTransToolBtn *m_b = nullptr;
     QStringList m_events;
 };
-
-void tst_QVelaContainer::record(QVelaContainer *container)
-{
-    connect(container, &QVelaContainer::BtnClicked,
-            [this](QAbstractButton *button) { m_events << "BtnClicked:" + button->objectName(); });
-    connect(container, &QVelaContainer::BtnRightClicked, [this](QAbstractButton *button) {
-        m_events << "BtnRightClicked:" + button->objectName();
-    });
-    connect(container, &QVelaContainer::ChangeToolBtnState,
-            [this](const QList<QString> &names, const QList<bool> &states) {
-                QStringList changes;
-                for (int i = 0; i < names.size(); ++i)
-                    changes << names.at(i) + (states.value(i) ? "=on" : "=off");
-                m_events << "ChangeToolBtnState:" + changes.join(',');
-            });
-    connect(container, &QVelaContainer::NoBtnClicked, [this] { m_events << "NoBtnClicked"; });
-}
 
 void tst_QVelaContainer::init()
 {
@@ -139,7 +117,19 @@ void tst_QVelaContainer::init()
     m_a = addButton(m_container, QStringLiteral("a"), QRect(60, 0, 100, 100));
     m_container->InitBtnMap(false);
     m_events.clear();
-    record(m_container);
+    connect(m_container, &QVelaContainer::BtnClicked,
+            [this](QAbstractButton *button) { m_events << "BtnClicked:" + button->objectName(); });
+    connect(m_container, &QVelaContainer::BtnRightClicked, [this](QAbstractButton *button) {
+        m_events << "BtnRightClicked:" + button->objectName();
+    });
+    connect(m_container, &QVelaContainer::ChangeToolBtnState,
+            [this](const QList<QString> &names, const QList<bool> &states) {
+                QStringList changes;
+                for (int i = 0; i < names.size(); ++i)
+                    changes << names.at(i) + (states.value(i) ? "=on" : "=off");
+                m_events << "ChangeToolBtnState:" + changes.join(',');
+            });
+    connect(m_container, &QVelaContainer::NoBtnClicked, [this] { m_events << "NoBtnClicked"; });
     m_container->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_container));
 }
@@ -148,18 +138,6 @@ void tst_QVelaContainer::cleanup()
 {
     delete m_container;
     m_container = nullptr;
-}
-
-void tst_QVelaContainer::defaults()
-{
-    QVelaContainer container;
-    QVERIFY(container.hasMouseTracking());
-    QVERIFY(!container.setTransToolBtnState(QStringLiteral("a"), true));
-
-    // A style sheet's background is painted.
-    m_container->setStyleSheet(QStringLiteral("QVelaContainer { background: #1c1c1c; }"));
-    const QImage shot = m_container->grab().toImage();
-    QCOMPARE(shot.pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
 }
 
 void tst_QVelaContainer::buttonMap()
@@ -177,15 +155,17 @@ void tst_QVelaContainer::buttonMap()
     // A button added later takes clicks only once the map is made again.
     QTransToolBtn *late = addButton(m_container, QStringLiteral("c"), QRect(165, 5, 30, 30));
     late->show();
-    const QPoint onLate(180, 20);
     Mouse mouse(m_container);
-    mouse.click(onLate);
+    mouse.click(QPoint(180, 20));
     QVERIFY(!late->isChecked());
     QCOMPARE(m_events, QStringList({ "NoBtnClicked" }));
-
     m_container->InitBtnMap(false);
-    mouse.click(onLate);
+    mouse.click(QPoint(180, 20));
     QVERIFY(late->isChecked());
+
+    // The container paints its style sheet's background.
+    m_container->setStyleSheet(QStringLiteral("QVelaContainer { background: #1c1c1c; }"));
+    QCOMPARE(m_container->grab().toImage().pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
 }
 
 void tst_QVelaContainer::overlappingButtonsFirstNameWins()
@@ -200,7 +180,6 @@ void tst_QVelaContainer::overlappingButtonsFirstNameWins()
 
     // Where both are opaque, whichever lies on top, "a" comes first by name.
     m_events.clear();
-    QCOMPARE(m_container->childAt(kBoth), m_a);
     m_a->stackUnder(m_b);
     QCOMPARE(m_container->childAt(kBoth), m_b);
     mouse.click(kBoth);
@@ -209,39 +188,23 @@ void tst_QVelaContainer::overlappingButtonsFirstNameWins()
     QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on" }));
 }
 
-void tst_QVelaContainer::clickToggles()
+void tst_QVelaContainer::clicksToggle()
 {
     Mouse mouse(m_container);
     mouse.click(kOnlyA);
     mouse.click(kOnlyB);
     mouse.click(kOnlyA);
-    QVERIFY(!m_a->isChecked());
-    QVERIFY(m_b->isChecked());
-    QCOMPARE(
-        m_events,
-        QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on", "BtnClicked:b",
-                      "ChangeToolBtnState:b=on", "BtnClicked:a", "ChangeToolBtnState:a=off" }));
-}
-
-void tst_QVelaContainer::pressAndReleaseOnDifferentButtons()
-{
-    Mouse mouse(m_container);
+    // Press and release on different buttons, or a release after a press over nothing: no click.
     mouse.press(kOnlyA);
     mouse.release(kOnlyB);
-    // The press is forgotten: releasing on A afterwards is no click either.
-    QTest::mouseRelease(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
-    // Nor is a release on A after a press over nothing.
     mouse.press(kNothing);
     mouse.release(kOnlyA);
-    QCOMPARE(m_events, QStringList({ "NoBtnClicked", "NoBtnClicked", "NoBtnClicked" }));
     QVERIFY(!m_a->isChecked());
-    QVERIFY(!m_b->isChecked());
-
-    // A press over nothing keeps an earlier press on a button.
-    QTest::mousePress(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
-    QTest::mousePress(m_container, Qt::LeftButton, Qt::NoModifier, kNothing);
-    QTest::mouseRelease(m_a, Qt::LeftButton, Qt::NoModifier, QPoint(80, 50));
-    QVERIFY(m_a->isChecked());
+    QVERIFY(m_b->isChecked());
+    QCOMPARE(m_events,
+             QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on", "BtnClicked:b",
+                           "ChangeToolBtnState:b=on", "BtnClicked:a", "ChangeToolBtnState:a=off",
+                           "NoBtnClicked", "NoBtnClicked" }));
 }
 
 void tst_QVelaContainer::exclusiveMode()
@@ -249,59 +212,36 @@ void tst_QVelaContainer::exclusiveMode()
     m_container->InitBtnMap(true);
     Mouse mouse(m_container);
     mouse.click(kOnlyA);
-    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on" }));
-
-    m_events.clear();
     mouse.click(kOnlyB);
-    QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on,a=off" }));
     QVERIFY(!m_a->isChecked());
-    QVERIFY(m_b->isChecked());
-
-    m_events.clear();
-    mouse.click(kOnlyA);
-    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on,b=off" }));
-
-    // Clicking the current button unchecks it.
-    m_events.clear();
-    mouse.click(kOnlyA);
-    QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=off" }));
-    QVERIFY(!m_a->isChecked());
-
-    // No button is current now: checking another one unchecks nothing.
-    m_events.clear();
-    mouse.click(kOnlyB);
-    QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on" }));
+    mouse.click(kOnlyB); // the current button unchecks itself
+    mouse.click(kOnlyA); // with no current button, nothing else is unchecked
+    QCOMPARE(
+        m_events,
+        QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on", "BtnClicked:b",
+                      "ChangeToolBtnState:b=on,a=off", "BtnClicked:b", "ChangeToolBtnState:b=off",
+                      "BtnClicked:a", "ChangeToolBtnState:a=on" }));
 }
 
-void tst_QVelaContainer::rightClick()
+void tst_QVelaContainer::rightAndDoubleClicks()
 {
     m_container->InitBtnMap(true);
     Mouse mouse(m_container);
     mouse.click(kOnlyA, Qt::RightButton);
-    QCOMPARE(m_events, QStringList({ "BtnRightClicked:a" }));
     QVERIFY(!m_a->isChecked());
-
-    m_a->setChecked(true);
-    mouse.click(kOnlyA, Qt::MiddleButton);
-    QVERIFY(m_a->isChecked());
     mouse.press(kOnlyA, Qt::RightButton);
     mouse.release(kOnlyB, Qt::RightButton);
-    QCOMPARE(m_events, QStringList({ "BtnRightClicked:a", "BtnRightClicked:a", "NoBtnClicked" }));
-}
+    QCOMPARE(m_events, QStringList({ "BtnRightClicked:a", "NoBtnClicked" }));
 
-void tst_QVelaContainer::doubleClick()
-{
+    // A double click goes to the button hit, through a transparent part too.
+    m_events.clear();
     QStringList doubles;
-    connect(m_a, &QTransToolBtn::doubleClicked, [&] { doubles << "a:left"; });
-    connect(m_a, &QTransToolBtn::doubleRightClicked, [&] { doubles << "a:right"; });
-    connect(m_b, &QTransToolBtn::doubleClicked, [&] { doubles << "b:left"; });
-
-    QTest::mouseDClick(m_a, Qt::LeftButton, Qt::NoModifier, m_a->mapFrom(m_container, kBoth));
-    QTest::mouseDClick(m_a, Qt::RightButton, Qt::NoModifier, m_a->mapFrom(m_container, kBoth));
+    connect(m_a, &QTransToolBtn::doubleClicked, [&] { doubles << "a"; });
+    connect(m_b, &QTransToolBtn::doubleClicked, [&] { doubles << "b"; });
     QTest::mouseDClick(m_a, Qt::LeftButton, Qt::NoModifier,
                        m_a->mapFrom(m_container, kBehindTransparentA));
     QTest::mouseDClick(m_container, Qt::LeftButton, Qt::NoModifier, kNothing);
-    QCOMPARE(doubles, QStringList({ "a:left", "a:right", "b:left" }));
+    QCOMPARE(doubles, QStringList({ "b" }));
     QVERIFY(m_events.isEmpty());
 }
 
@@ -322,11 +262,10 @@ void tst_QVelaContainer::hiddenOrDisabledButtonsNeverTakeClicks()
 
     // Sent to the container itself, as after the buttons passed them on.
     QTest::mouseClick(m_container, Qt::LeftButton, Qt::NoModifier, kBoth);
-    QVERIFY(!m_a->isChecked());
-    QVERIFY(m_b->isChecked());
     QTest::mouseClick(m_container, Qt::LeftButton, Qt::NoModifier, kOnlyA);
     QTest::mouseClick(m_container, Qt::RightButton, Qt::NoModifier, kOnlyA);
     QVERIFY(!m_a->isChecked());
+    QVERIFY(m_b->isChecked());
     QCOMPARE(
         m_events,
         QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on", "NoBtnClicked", "NoBtnClicked" }));
@@ -334,19 +273,20 @@ void tst_QVelaContainer::hiddenOrDisabledButtonsNeverTakeClicks()
 
 void tst_QVelaContainer::programmaticState()
 {
-    m_container->InitBtnMap(true);
-    Mouse(m_container).click(kOnlyA);
-    m_events.clear();
+    QVelaContainer unmapped;
+    QVERIFY(!unmapped.setTransToolBtnState(QStringLiteral("a"), true));
 
+    m_container->InitBtnMap(true);
+    Mouse mouse(m_container);
+    mouse.click(kOnlyA);
+    m_events.clear();
     QVERIFY(m_container->setTransToolBtnState(QStringLiteral("b"), true));
     QVERIFY(m_b->isChecked());
     QVERIFY(!m_container->setTransToolBtnState(QStringLiteral("nose"), true));
     QVERIFY(!m_container->setTransToolBtnState(QString(), true));
     QVERIFY(m_events.isEmpty());
 
-    // "a" is still the current button: clicking "b" off leaves it alone, clicking "b" on again
-    // unchecks "a".
-    Mouse mouse(m_container);
+    // "a" is still the current button: clicking "b" off unchecks "a" as well.
     mouse.click(kOnlyB);
     QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=off,a=off" }));
     QVERIFY(!m_a->isChecked());
