@@ -19,10 +19,8 @@ private slots:
     void cleanup();
     void dragStartsAtTheStartDistance_data();
     void dragStartsAtTheStartDistance();
-    void payload();
-    void onlyLeftPressesSetTheStart();
-    void noCurrentItemNoDrag();
-    void payloadDropsOnVisemeCurve();
+    void onlyLeftPressesOnAnItemStartDrags();
+    void dropOnCurveNamesSlot();
 
 private:
     // The drags the list has started; each is deleted once the event loop runs again.
@@ -62,29 +60,20 @@ void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + offset);
 }
 
-void tst_QVisemeListWidget::payload()
+void tst_QVisemeListWidget::onlyLeftPressesOnAnItemStartDrags()
 {
-    const QPoint start = itemCenter(2);
-    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    VelaTest::mouseMove(m_list->viewport(), start + QPoint(0, 40));
-    QCOMPARE(drags().size(), 1);
-    const QDrag *drag = drags().first();
-    QCOMPARE(drag->source(), m_list.get());
-    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
-    const QMimeData *data = drag->mimeData();
-    QVERIFY(data->hasFormat(QStringLiteral("application/x-visemelistitem")));
-    QVERIFY(data->data(QStringLiteral("application/x-visemelistitem")).isEmpty());
-    QCOMPARE(data->text(), QStringLiteral("OH"));
-    QCOMPARE(data->formats(), QStringList({ "application/x-visemelistitem", "text/plain" }));
-    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
-}
+    // A press below the last item makes no item current: no drag.
+    m_list->setCurrentItem(nullptr);
+    const QPoint empty(20, m_list->viewport()->height() - 10);
+    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+    VelaTest::mouseMove(m_list->viewport(), empty - QPoint(0, 40));
+    QVERIFY(drags().isEmpty());
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
 
-void tst_QVisemeListWidget::onlyLeftPressesSetTheStart()
-{
+    // A right press far away leaves the start where the left press put it.
     const int distance = QApplication::startDragDistance();
     const QPoint start = itemCenter(0);
     QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    // A right press far away leaves the start where the left press put it.
     const QPoint far = start + QPoint(0, distance);
     QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, far);
     VelaTest::mouseMove(m_list->viewport(), far);
@@ -94,20 +83,7 @@ void tst_QVisemeListWidget::onlyLeftPressesSetTheStart()
     QCOMPARE(drags().size(), 1);
 }
 
-void tst_QVisemeListWidget::noCurrentItemNoDrag()
-{
-    m_list->setCurrentItem(nullptr);
-    QVERIFY(!m_list->currentItem());
-    // Below the last item: the press makes no item current.
-    const QPoint empty(20, m_list->viewport()->height() - 10);
-    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
-    QVERIFY(!m_list->currentItem());
-    VelaTest::mouseMove(m_list->viewport(), empty - QPoint(0, 40));
-    QVERIFY(drags().isEmpty());
-    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
-}
-
-void tst_QVisemeListWidget::payloadDropsOnVisemeCurve()
+void tst_QVisemeListWidget::dropOnCurveNamesSlot()
 {
     // What the list sends is what the viseme curve widget takes: the name lands on the button.
     QWidget host;
@@ -122,8 +98,12 @@ void tst_QVisemeListWidget::payloadDropsOnVisemeCurve()
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
     VelaTest::mouseMove(m_list->viewport(), start + QPoint(30, 0));
     QCOMPARE(drags().size(), 1);
-    QVERIFY(VelaTest::dropAt(curve, button->geometry().center(), drags().first()->mimeData(),
-                             nullptr, Qt::MoveAction));
+    const QDrag *drag = drags().first();
+    QCOMPARE(drag->source(), m_list.get());
+    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
+    QCOMPARE(drag->mimeData()->text(), QStringLiteral("EE"));
+    QVERIFY(VelaTest::dropAt(curve, button->geometry().center(), drag->mimeData(), nullptr,
+                             Qt::MoveAction));
     QCOMPARE(button->text(), QStringLiteral("EE"));
     QCOMPARE(curve->GetVisemeName(0), QStringLiteral("EE"));
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
