@@ -19,7 +19,6 @@ private slots:
     void noMenuWithoutRows();
     void deleteAsksForCurrentRow_data();
     void deleteAsksForCurrentRow();
-    void menuIsMadeForEveryRequest();
 
 private:
     // Sends a right-click context menu request at pos and lets `choose` act on the open menu;
@@ -98,22 +97,6 @@ void tst_QDiphoneListWidget::deleteAsksForCurrentRow()
     QCOMPARE(spy.at(0).at(0).toInt(), current);
     // The owner removes the row; the list itself keeps it.
     QCOMPARE(m_list->count(), 3);
-}
-
-void tst_QDiphoneListWidget::menuIsMadeForEveryRequest()
-{
-    m_list->addItems({ QStringLiteral("AA-EE") });
-    m_list->setCurrentRow(0);
-    QSignalSpy spy(m_list.get(), &QDiphoneListWidget::DeleteCurrentRow);
-    // A dismissed menu asks nothing; each later menu's action reaches the list once.
-    QVERIFY(
-        requestMenu(QPoint(20, 5), [&](QMenu *menu) { QTest::keyClick(menu, Qt::Key_Escape); }));
-    QCOMPARE(spy.count(), 0);
-    QVERIFY(requestMenu(QPoint(20, 5), [&](QMenu *menu) {
-        menu->actions().value(0)->trigger();
-        menu->close();
-    }));
-    QCOMPARE(spy.count(), 1);
 }
 
 VELA_TEST_CLASS(tst_QDiphoneListWidget)

@@ -152,17 +152,6 @@ void tst_QVelaContainer::buttonMap()
     m_container->GetQTransToolBtns(buttons);
     QCOMPARE(buttons, QList<QTransToolBtn *>({ second, m_b }));
 
-    // A button added later takes clicks only once the map is made again.
-    QTransToolBtn *late = addButton(m_container, QStringLiteral("c"), QRect(165, 5, 30, 30));
-    late->show();
-    Mouse mouse(m_container);
-    mouse.click(QPoint(180, 20));
-    QVERIFY(!late->isChecked());
-    QCOMPARE(m_events, QStringList({ "NoBtnClicked" }));
-    m_container->InitBtnMap(false);
-    mouse.click(QPoint(180, 20));
-    QVERIFY(late->isChecked());
-
     // The container paints its style sheet's background.
     m_container->setStyleSheet(QStringLiteral("QVelaContainer { background: #1c1c1c; }"));
     QCOMPARE(m_container->grab().toImage().pixelColor(kNothing), QColor(0x1c, 0x1c, 0x1c));
