@@ -26,12 +26,10 @@ private slots:
     void init();
     void cleanup();
 
-    void defaults();
-    void properties();
+    void iconFollowsColourAndSize();
     void setColorEmitsOnlyOnChange();
     void acceptedSession();
-    void cancelAfterLiveChange();
-    void cancelWithoutChange();
+    void cancelledSessions();
     void sessionWithoutCallbacks();
     void customDisconnect();
 
@@ -65,32 +63,19 @@ void tst_QColorButton::cleanup()
     m_window.reset();
 }
 
-void tst_QColorButton::defaults()
+void tst_QColorButton::iconFollowsColourAndSize()
 {
-    QColorButton button(nullptr);
-    QVERIFY(!button.GetColor().isValid());
-    QCOMPARE(button.iconSize(), QSize(32, 32));
-    // A new button shows black although it has no colour yet.
-    QCOMPARE(iconColor(button), QColor(Qt::black));
-    QVERIFY(button.ColorDialogUi());
-    // The dialog lives beside the button, under the button's parent.
+    // A new button shows black although it has no colour yet; its dialog lives beside it.
+    QVERIFY(!m_button->GetColor().isValid());
+    QCOMPARE(iconColor(*m_button), QColor(Qt::black));
     QCOMPARE(m_button->ColorDialogUi()->parent(), m_window.get());
-    QVERIFY(!m_button->ColorDialogUi()->isVisible());
-}
 
-void tst_QColorButton::properties()
-{
     QVERIFY(m_button->setProperty("Color", QColor(Qt::red)));
-    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
-    QVERIFY(m_button->setProperty("iconSize", QSize(20, 10)));
-    QCOMPARE(m_button->iconSize(), QSize(20, 10));
-    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
     m_button->setIconSize(QSize(60, 25));
     QCOMPARE(iconColor(*m_button), QColor(Qt::red));
 
     // A huge icon size costs no more than a large icon.
     m_button->setIconSize(QSize(60000, 60000));
-    QCOMPARE(m_button->iconSize(), QSize(60000, 60000));
     QCOMPARE(m_button->icon().availableSizes(), QList<QSize> { QSize(256, 256) });
 }
 
@@ -101,12 +86,9 @@ void tst_QColorButton::setColorEmitsOnlyOnChange()
     connect(m_button, &QColorButton::ColorChanged2, this,
             [&](QColor color) { order << color.name(); });
     m_button->SetColor(QColor(Qt::red));
-    QCOMPARE(order, (QStringList { QStringLiteral("1"), QStringLiteral("#ff0000") }));
-    QCOMPARE(iconColor(*m_button), QColor(Qt::red));
     m_button->SetColor(QColor(Qt::red));
-    QCOMPARE(order.size(), 2);
     m_button->SetColor(QColor(Qt::blue));
-    QCOMPARE(order.size(), 4);
+    QCOMPARE(order, QStringList({ "1", "#ff0000", "1", "#0000ff" }));
     QCOMPARE(iconColor(*m_button), QColor(Qt::blue));
 }
 
@@ -124,18 +106,23 @@ void tst_QColorButton::acceptedSession()
     });
     QCOMPARE(seenLive, QColor(Qt::green));
     QCOMPARE(m_calls, QStringList({ "begin", "end", "accepted" }));
-    QCOMPARE(m_button->GetColor(), QColor(Qt::green));
     QCOMPARE(iconColor(*m_button), QColor(Qt::green));
     // Only the live change was reported; accepting stores the colour without a signal.
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.at(0).at(0).value<QColor>(), QColor(Qt::green));
 }
 
-void tst_QColorButton::cancelAfterLiveChange()
+void tst_QColorButton::cancelledSessions()
 {
     m_button->SetColor(QColor(Qt::red));
     QSignalSpy changed(m_button, &QColorButton::ColorChanged);
     QSignalSpy changed2(m_button, &QColorButton::ColorChanged2);
+    runSession([&](QColorDialog *dialog) { dialog->reject(); });
+    QCOMPARE(m_calls, QStringList({ "begin", "end" }));
+    QCOMPARE(changed.count(), 0);
+
+    // After live changes the cancel restores the colour, with a signal.
+    m_calls.clear();
     runSession([&](QColorDialog *dialog) {
         dialog->setCurrentColor(QColor(Qt::blue));
         dialog->setCurrentColor(QColor(Qt::yellow));
@@ -158,16 +145,6 @@ void tst_QColorButton::cancelAfterLiveChange()
     });
     QCOMPARE(m_calls, QStringList({ "begin", "end", "reverted" }));
     QCOMPARE(changed.count(), 5);
-}
-
-void tst_QColorButton::cancelWithoutChange()
-{
-    m_button->SetColor(QColor(Qt::red));
-    QSignalSpy changed(m_button, &QColorButton::ColorChanged);
-    runSession([&](QColorDialog *dialog) { dialog->reject(); });
-    QCOMPARE(m_calls, QStringList({ "begin", "end" }));
-    QCOMPARE(changed.count(), 0);
-    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
 }
 
 void tst_QColorButton::sessionWithoutCallbacks()
@@ -194,7 +171,6 @@ void tst_QColorButton::customDisconnect()
     QSignalSpy pressed(m_button, &QColorButton::pressed);
     m_button->CustomDisconnect();
     m_button->SetColor(QColor(Qt::red));
-    QCOMPARE(reported, 0);
 
     // The click still opens the dialog and the button still follows it.
     runSession([&](QColorDialog *dialog) {
