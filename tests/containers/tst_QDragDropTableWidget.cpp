@@ -15,7 +15,6 @@ private slots:
     void init();
     void cleanup();
 
-    void refusedWithoutInterfaceOrParent();
     void dropAsksInterface_data();
     void dropAsksInterface();
     void dragMoveKeepsEnterDecision();
@@ -59,81 +58,35 @@ void tst_QDragDropTableWidget::cleanup()
     m_table = nullptr;
 }
 
-void tst_QDragDropTableWidget::refusedWithoutInterfaceOrParent()
-{
-    VelaDropTest::expectWindowRaised(3);
-    const auto mimeData = VelaTest::fileMime(m_files);
-    QVERIFY(!VelaTest::dragEnter(m_table->viewport(), cellCenter(0, 0), mimeData.get()));
-
-    // A drag without links is refused without asking.
-    m_table->SetInterface(&m_interface);
-    QMimeData text;
-    text.setText(QStringLiteral("Hero.fbx"));
-    QVERIFY(!VelaTest::dragEnter(m_table->viewport(), cellCenter(0, 0), &text));
-
-    // An interface withdrawn during the drag: the drop is ignored.
-    {
-        VelaDropTest::DragSession drag(m_table->viewport(), cellCenter(1, 0), mimeData.get());
-        QVERIFY(drag.entered());
-        m_table->SetInterface(nullptr);
-        QVERIFY(!drag.drop(cellCenter(1, 0)));
-    }
-    QCOMPARE(m_interface.calls, QStringList { "CanDragEnter" });
-
-    // A table without a parent refuses every drag without asking.
-    m_interface.calls.clear();
-    QDragDropTableWidget table;
-    table.setAcceptDrops(true);
-    table.resize(200, 200);
-    table.SetInterface(&m_interface);
-    table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
-    QVERIFY(!VelaTest::dragEnter(table.viewport(), QPoint(150, 150), mimeData.get()));
-    QVERIFY(m_interface.calls.isEmpty());
-}
-
+// The rules for files are the list's (tst_QDragDropListWidget); here, which cell a drop lands on:
+// the host is offered every file where there is no item, the first file and the item on an item.
 void tst_QDragDropTableWidget::dropAsksInterface_data()
 {
-    QTest::addColumn<int>("fileCount");
     QTest::addColumn<QPoint>("cell"); // (-1, -1): below the rows
-    QTest::addColumn<bool>("enterAnswer");
-    QTest::addColumn<bool>("dropAnswer");
-    QTest::newRow("refused at the enter") << 1 << QPoint(1, 1) << false << true;
-    QTest::newRow("three files, empty cell") << 3 << QPoint(0, 1) << true << true;
-    QTest::newRow("one file, below the rows") << 1 << QPoint(-1, -1) << true << true;
-    QTest::newRow("three files, on an item") << 3 << QPoint(1, 1) << true << true;
-    QTest::newRow("refused on an item") << 3 << QPoint(2, 0) << true << false;
-    QTest::newRow("refused on an empty cell") << 3 << QPoint(0, 1) << true << false;
+    QTest::addColumn<bool>("answer");
+    QTest::newRow("empty cell") << QPoint(0, 1) << true;
+    QTest::newRow("below the rows") << QPoint(-1, -1) << true;
+    QTest::newRow("on an item") << QPoint(1, 1) << true;
+    QTest::newRow("refused on an item") << QPoint(2, 0) << false;
 }
 
-// The host is asked at the enter with every file; at the drop, where there is no item with every
-// file, on an item with the first file and the item.
 void tst_QDragDropTableWidget::dropAsksInterface()
 {
-    QFETCH(int, fileCount);
     QFETCH(QPoint, cell);
-    QFETCH(bool, enterAnswer);
-    QFETCH(bool, dropAnswer);
-    VelaDropTest::expectWindowRaised(enterAnswer ? 2 : 1);
+    QFETCH(bool, answer);
+    VelaDropTest::expectWindowRaised(2);
     m_table->SetInterface(&m_interface);
-    m_interface.enterAnswer = enterAnswer;
-    m_interface.dropAnswer = dropAnswer;
-    const QStringList files = m_files.mid(0, fileCount);
-    const auto mimeData = VelaTest::fileMime(files);
+    m_interface.dropAnswer = answer;
+    const auto mimeData = VelaTest::fileMime(m_files);
     const QPoint pos = cell.x() < 0 ? QPoint(10, m_table->viewport()->height() - 5)
                                     : cellCenter(cell.x(), cell.y());
     QTableWidgetItem *item = cell.x() < 0 ? nullptr : m_table->item(cell.x(), cell.y());
 
-    QCOMPARE(VelaTest::dropAt(m_table->viewport(), pos, mimeData.get()), enterAnswer && dropAnswer);
-    QCOMPARE(QStringList(m_interface.files.first()), files);
-    if (enterAnswer) {
-        QCOMPARE(m_interface.calls,
-                 QStringList({ "CanDragEnter", item ? "CanDropFile" : "CanDropFileList" }));
-        QCOMPARE(QStringList(m_interface.files.at(1)), item ? QStringList(files.mid(0, 1)) : files);
-        QCOMPARE(m_interface.item, item);
-    } else {
-        QCOMPARE(m_interface.calls, QStringList { "CanDragEnter" });
-    }
+    QCOMPARE(VelaTest::dropAt(m_table->viewport(), pos, mimeData.get()), answer);
+    QCOMPARE(m_interface.calls,
+             QStringList({ "CanDragEnter", item ? "CanDropFile" : "CanDropFileList" }));
+    QCOMPARE(QStringList(m_interface.files.at(1)), item ? QStringList(m_files.first()) : m_files);
+    QCOMPARE(m_interface.item, item);
 }
 
 void tst_QDragDropTableWidget::dragMoveKeepsEnterDecision()

@@ -3,42 +3,21 @@
 #include "VelaTest.h"
 
 #include <QPainter>
-#include <QPointer>
 #include <QtTest>
 
 namespace {
 
-// Delivers presses and releases as a user's mouse does: to the topmost widget under the pointer,
-// the release to the widget that got the press.
-class Mouse
+// A press at `at` and a release at `to` (default: the same place), delivered as a user's mouse
+// does: to the topmost widget under the press.
+void click(QWidget *container, const QPoint &at, Qt::MouseButton button = Qt::LeftButton,
+           QPoint to = QPoint(-1, -1))
 {
-public:
-    explicit Mouse(QWidget *container)
-        : m_container(container)
-    { }
-
-    void press(const QPoint &pos, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QWidget *child = m_container->childAt(pos);
-        m_target = child ? child : m_container;
-        QTest::mousePress(m_target, button, Qt::NoModifier, m_target->mapFrom(m_container, pos));
-    }
-    void release(const QPoint &pos, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QWidget *target = m_target ? m_target.data() : m_container;
-        QTest::mouseRelease(target, button, Qt::NoModifier, target->mapFrom(m_container, pos));
-        m_target = nullptr;
-    }
-    void click(const QPoint &pos, Qt::MouseButton button = Qt::LeftButton)
-    {
-        press(pos, button);
-        release(pos, button);
-    }
-
-private:
-    QWidget *m_container;
-    QPointer<QWidget> m_target;
-};
+    QWidget *target = container->childAt(at) ? container->childAt(at) : container;
+    QTest::mousePress(target, button, Qt::NoModifier, target->mapFrom(container, at));
+    if (to.x() < 0)
+        to = at;
+    QTest::mouseRelease(target, button, Qt::NoModifier, target->mapFrom(container, to));
+}
 
 // A checkable button showing an ellipse that fills its geometry.
 QTransToolBtn *addButton(QWidget *parent, const QString &name, const QRect &geometry)
@@ -161,8 +140,7 @@ void tst_QVelaContainer::overlappingButtonsFirstNameWins()
 {
     // A click on a transparent part of the top button passes on to the one below.
     QCOMPARE(m_container->childAt(kBehindTransparentA), m_a);
-    Mouse mouse(m_container);
-    mouse.click(kBehindTransparentA);
+    click(m_container, kBehindTransparentA);
     QVERIFY(m_b->isChecked());
     QVERIFY(!m_a->isChecked());
     QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=on" }));
@@ -171,7 +149,7 @@ void tst_QVelaContainer::overlappingButtonsFirstNameWins()
     m_events.clear();
     m_a->stackUnder(m_b);
     QCOMPARE(m_container->childAt(kBoth), m_b);
-    mouse.click(kBoth);
+    click(m_container, kBoth);
     QVERIFY(m_a->isChecked());
     QVERIFY(m_b->isChecked());
     QCOMPARE(m_events, QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on" }));
@@ -179,15 +157,12 @@ void tst_QVelaContainer::overlappingButtonsFirstNameWins()
 
 void tst_QVelaContainer::clicksToggle()
 {
-    Mouse mouse(m_container);
-    mouse.click(kOnlyA);
-    mouse.click(kOnlyB);
-    mouse.click(kOnlyA);
+    click(m_container, kOnlyA);
+    click(m_container, kOnlyB);
+    click(m_container, kOnlyA);
     // Press and release on different buttons, or a release after a press over nothing: no click.
-    mouse.press(kOnlyA);
-    mouse.release(kOnlyB);
-    mouse.press(kNothing);
-    mouse.release(kOnlyA);
+    click(m_container, kOnlyA, Qt::LeftButton, kOnlyB);
+    click(m_container, kNothing, Qt::LeftButton, kOnlyA);
     QVERIFY(!m_a->isChecked());
     QVERIFY(m_b->isChecked());
     QCOMPARE(m_events,
@@ -199,12 +174,11 @@ void tst_QVelaContainer::clicksToggle()
 void tst_QVelaContainer::exclusiveMode()
 {
     m_container->InitBtnMap(true);
-    Mouse mouse(m_container);
-    mouse.click(kOnlyA);
-    mouse.click(kOnlyB);
+    click(m_container, kOnlyA);
+    click(m_container, kOnlyB);
     QVERIFY(!m_a->isChecked());
-    mouse.click(kOnlyB); // the current button unchecks itself
-    mouse.click(kOnlyA); // with no current button, nothing else is unchecked
+    click(m_container, kOnlyB); // the current button unchecks itself
+    click(m_container, kOnlyA); // with no current button, nothing else is unchecked
     QCOMPARE(
         m_events,
         QStringList({ "BtnClicked:a", "ChangeToolBtnState:a=on", "BtnClicked:b",
@@ -215,11 +189,9 @@ void tst_QVelaContainer::exclusiveMode()
 void tst_QVelaContainer::rightAndDoubleClicks()
 {
     m_container->InitBtnMap(true);
-    Mouse mouse(m_container);
-    mouse.click(kOnlyA, Qt::RightButton);
+    click(m_container, kOnlyA, Qt::RightButton);
     QVERIFY(!m_a->isChecked());
-    mouse.press(kOnlyA, Qt::RightButton);
-    mouse.release(kOnlyB, Qt::RightButton);
+    click(m_container, kOnlyA, Qt::RightButton, kOnlyB);
     QCOMPARE(m_events, QStringList({ "BtnRightClicked:a", "NoBtnClicked" }));
 
     // A double click goes to the button hit, through a transparent part too.
@@ -266,8 +238,7 @@ void tst_QVelaContainer::programmaticState()
     QVERIFY(!unmapped.setTransToolBtnState(QStringLiteral("a"), true));
 
     m_container->InitBtnMap(true);
-    Mouse mouse(m_container);
-    mouse.click(kOnlyA);
+    click(m_container, kOnlyA);
     m_events.clear();
     QVERIFY(m_container->setTransToolBtnState(QStringLiteral("b"), true));
     QVERIFY(m_b->isChecked());
@@ -276,7 +247,7 @@ void tst_QVelaContainer::programmaticState()
     QVERIFY(m_events.isEmpty());
 
     // "a" is still the current button: clicking "b" off unchecks "a" as well.
-    mouse.click(kOnlyB);
+    click(m_container, kOnlyB);
     QCOMPARE(m_events, QStringList({ "BtnClicked:b", "ChangeToolBtnState:b=off,a=off" }));
     QVERIFY(!m_a->isChecked());
 }
@@ -298,8 +269,7 @@ void tst_QVelaContainer::passOnFlag()
 void tst_QVelaContainer::deletedButtonsLeaveTheMap()
 {
     m_container->InitBtnMap(true);
-    Mouse mouse(m_container);
-    mouse.click(kOnlyA); // "a" is current
+    click(m_container, kOnlyA); // "a" is current
     delete m_a;
     m_a = nullptr;
 
@@ -309,8 +279,8 @@ void tst_QVelaContainer::deletedButtonsLeaveTheMap()
     QVERIFY(!m_container->setTransToolBtnState(QStringLiteral("a"), true));
 
     m_events.clear();
-    mouse.click(kOnlyA);
-    mouse.click(kOnlyB);
+    click(m_container, kOnlyA);
+    click(m_container, kOnlyB);
     QCOMPARE(m_events, QStringList({ "NoBtnClicked", "BtnClicked:b", "ChangeToolBtnState:b=on" }));
     VelaTest::mouseMove(m_container, kOnlyA, Qt::NoButton);
 }
