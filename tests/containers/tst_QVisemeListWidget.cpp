@@ -1,11 +1,8 @@
-#include "QVisemeCurveWidgetLite.h"
 #include "QVisemeListWidget.h"
-#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QDrag>
 #include <QMimeData>
-#include <QToolButton>
 #include <QtTest>
 
 #include <memory>
@@ -20,7 +17,7 @@ private slots:
     void dragStartsAtTheStartDistance_data();
     void dragStartsAtTheStartDistance();
     void onlyLeftPressesOnAnItemStartDrags();
-    void dropOnCurveNamesSlot();
+    void payload();
 
 private:
     // The drags the list has started; each is deleted once the event loop runs again.
@@ -44,9 +41,19 @@ void tst_QVisemeListWidget::cleanup()
     m_list.reset();
 }
 
+// Pointer offsets from a press, with whether a drag starts there: exactly at the start-drag
+// distance, straight or diagonal, and one pixel short of it.
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance_data()
 {
-    VelaDropTest::addStartDistanceRows();
+    const int distance = QApplication::startDragDistance();
+    QTest::addColumn<QPoint>("offset");
+    QTest::addColumn<bool>("starts");
+    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
+    QTest::newRow("one pixel short, diagonal")
+        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
+    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
+    QTest::newRow("exactly the distance, diagonal")
+        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
 }
 
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
@@ -83,30 +90,21 @@ void tst_QVisemeListWidget::onlyLeftPressesOnAnItemStartDrags()
     QCOMPARE(drags().size(), 1);
 }
 
-void tst_QVisemeListWidget::dropOnCurveNamesSlot()
+// The payload the viseme curves take to name a slot (tst_QVisemeCurveWidgetLite).
+void tst_QVisemeListWidget::payload()
 {
-    // What the list sends is what the viseme curve widget takes: the name lands on the button.
-    QWidget host;
-    auto *curve = new QVisemeCurveWidgetLite(&host);
-    curve->setGeometry(0, 0, 300, 200);
-    auto *button = new QToolButton(curve);
-    button->setCheckable(true);
-    button->setGeometry(240, 10, 50, 20);
-    curve->Init();
-
-    const QPoint start = itemCenter(1);
+    const QPoint start = itemCenter(2);
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    VelaTest::mouseMove(m_list->viewport(), start + QPoint(30, 0));
+    VelaTest::mouseMove(m_list->viewport(), start + QPoint(0, 40));
     QCOMPARE(drags().size(), 1);
     const QDrag *drag = drags().first();
     QCOMPARE(drag->source(), m_list.get());
     QCOMPARE(drag->supportedActions(), Qt::MoveAction);
-    QCOMPARE(drag->mimeData()->text(), QStringLiteral("EE"));
-    QVERIFY(VelaTest::dropAt(curve, button->geometry().center(), drag->mimeData(), nullptr,
-                             Qt::MoveAction));
-    QCOMPARE(button->text(), QStringLiteral("EE"));
-    QCOMPARE(curve->GetVisemeName(0), QStringLiteral("EE"));
-    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    QCOMPARE(drag->mimeData()->formats(),
+             QStringList({ "application/x-visemelistitem", "text/plain" }));
+    QVERIFY(drag->mimeData()->data("application/x-visemelistitem").isEmpty());
+    QCOMPARE(drag->mimeData()->text(), QStringLiteral("OH"));
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
 }
 
 VELA_TEST_CLASS(tst_QVisemeListWidget)
