@@ -115,8 +115,7 @@ void tst_QColorButton::acceptedSession()
 void tst_QColorButton::cancelledSessions()
 {
     m_button->SetColor(QColor(Qt::red));
-    QSignalSpy changed(m_button, &QColorButton::ColorChanged);
-    QSignalSpy changed2(m_button, &QColorButton::ColorChanged2);
+    QSignalSpy changed(m_button, &QColorButton::ColorChanged2);
     runSession([&](QColorDialog *dialog) { dialog->reject(); });
     QCOMPARE(m_calls, QStringList({ "begin", "end" }));
     QCOMPARE(changed.count(), 0);
@@ -130,11 +129,9 @@ void tst_QColorButton::cancelledSessions()
         dialog->reject();
     });
     QCOMPARE(m_calls, QStringList({ "begin", "end", "reverted" }));
-    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
     QCOMPARE(iconColor(*m_button), QColor(Qt::red));
     QCOMPARE(changed.count(), 3);
-    QCOMPARE(changed2.count(), 3);
-    QCOMPARE(changed2.at(2).at(0).value<QColor>(), QColor(Qt::red));
+    QCOMPARE(changed.at(2).at(0).value<QColor>(), QColor(Qt::red));
 
     // Moving away and back before cancelling still counts as a change.
     m_calls.clear();
