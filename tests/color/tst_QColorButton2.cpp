@@ -34,11 +34,9 @@ private slots:
     void cleanup();
 
     void setColorAlwaysEmits();
-    void modelessSession();
-    void dragReportsLiveThenFinished();
+    void modelessEdits();
     void resetReportsOpeningColour();
-    void noLiveReportsWhileScreenPicking();
-    void clickClearsPickingFlag();
+    void screenPicking();
     void modalSessions();
     void customDisconnect();
 
@@ -94,28 +92,21 @@ void tst_QColorButton2::setColorAlwaysEmits()
     m_dialog->blockSignals(false);
 }
 
-void tst_QColorButton2::modelessSession()
+void tst_QColorButton2::modelessEdits()
 {
     QSignalSpy clicked(m_button, &QColorButton2::Clicked);
+    QSignalSpy live(m_button, &QColorButton2::CurrentColorChanged);
     QSignalSpy finished(m_button, &QColorButton2::EditFinished);
+    QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
     openModeless(QColor(Qt::red));
     QCOMPARE(clicked.count(), 1);
     QVERIFY(!QApplication::activeModalWidget());
     QCOMPARE(m_dialog->currentColor(), QColor(Qt::red));
-    QCOMPARE(finished.count(), 0);
-    m_button->Close();
-    QVERIFY(!m_dialog->isVisible());
-}
+    changed.clear();
 
-void tst_QColorButton2::dragReportsLiveThenFinished()
-{
-    openModeless(QColor(Qt::red));
-    QSignalSpy live(m_button, &QColorButton2::CurrentColorChanged);
-    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
-    QSignalSpy changed(m_button, &QColorButton2::ColorChanged);
+    // A drag in the colour field reports live colours, then one finished edit on the release.
     QWidget *field = ColorTest::childOfClass(m_dialog, "QColorPicker");
     QVERIFY(field);
-
     QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
     QTest::mouseMove(field, QPoint(30, 40));
     QTest::mouseMove(field, QPoint(50, 60));
@@ -134,8 +125,9 @@ void tst_QColorButton2::dragReportsLiveThenFinished()
     m_dialog->setCurrentColor(QColor(Qt::green));
     QCOMPARE(live.count(), 3);
     QCOMPARE(finished.count(), 2);
-    QCOMPARE(lastColor(finished), QColor(Qt::green));
     QCOMPARE(m_button->GetColor(), QColor(Qt::green));
+    m_button->Close();
+    QVERIFY(!m_dialog->isVisible());
 }
 
 void tst_QColorButton2::resetReportsOpeningColour()
@@ -161,7 +153,7 @@ void tst_QColorButton2::resetReportsOpeningColour()
     QCOMPARE(lastColor(finished), QColor(Qt::yellow));
 }
 
-void tst_QColorButton2::noLiveReportsWhileScreenPicking()
+void tst_QColorButton2::screenPicking()
 {
     openModeless(QColor(Qt::red));
     QSignalSpy live(m_button, &QColorButton2::CurrentColorChanged);
@@ -170,35 +162,26 @@ void tst_QColorButton2::noLiveReportsWhileScreenPicking()
     QVERIFY(pick);
 
     QTest::mouseClick(pick, Qt::LeftButton);
-    QVERIFY(m_dialog->IsPickingScreenColor());
     m_dialog->setCurrentColor(QColor(Qt::magenta));
     QCOMPARE(live.count(), 0);
     QCOMPARE(finished.count(), 0);
     QCOMPARE(m_button->GetColor(), QColor(Qt::red));
-
     // The click that ends the picker is one finished edit, with the picked colour.
     QTest::mouseClick(m_dialog, Qt::LeftButton, Qt::NoModifier, QPoint(30, 12));
     QCOMPARE(finished.count(), 1);
     QCOMPARE(m_button->GetColor(), m_dialog->currentColor());
-}
 
-void tst_QColorButton2::clickClearsPickingFlag()
-{
-    openModeless(QColor(Qt::red));
-    QPushButton *pick = m_dialog->findChildren<QPushButton *>().value(0);
+    // A picker left running (its button stayed disabled) is forgotten on the next open; without
+    // placement the show leaves the flag alone, so the click clears it.
     m_button->Close();
-    // Without placement the show leaves the flag alone: only the click clears it. A picker left
-    // running (its button stayed disabled) is forgotten on the next open.
     m_dialog->SetPosition(ECDP_None);
     pick->setEnabled(false);
     QVERIFY(m_dialog->IsPickingScreenColor());
     QTest::mouseClick(m_button, Qt::LeftButton);
     QVERIFY(!m_dialog->IsPickingScreenColor());
     pick->setEnabled(true);
-
-    QSignalSpy finished(m_button, &QColorButton2::EditFinished);
     m_dialog->setCurrentColor(QColor(Qt::green));
-    QCOMPARE(finished.count(), 1);
+    QCOMPARE(finished.count(), 2);
 }
 
 void tst_QColorButton2::modalSessions()
