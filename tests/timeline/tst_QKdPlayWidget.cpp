@@ -25,10 +25,9 @@ private slots:
 
     void aspectKeptAcrossResizes_data();
     void aspectKeptAcrossResizes();
-    void exportSizeChangesLayout();
+    void exportSizeAndRatioLock();
     void invalidExportSize_data();
     void invalidExportSize();
-    void unlockedRatioFills();
     void viewFoundAmongDescendants();
     void withoutViewOrClose();
 
@@ -85,7 +84,7 @@ void tst_QKdPlayWidget::aspectKeptAcrossResizes()
     QCOMPARE(m_view->geometry(), view);
 }
 
-void tst_QKdPlayWidget::exportSizeChangesLayout()
+void tst_QKdPlayWidget::exportSizeAndRatioLock()
 {
     // 800 × 600 until the host sets another size.
     QCOMPARE(exportSize(*m_play), QSize(800, 600));
@@ -100,6 +99,16 @@ void tst_QKdPlayWidget::exportSizeChangesLayout()
     QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
     QCOMPARE(m_play->UpdateExportSize(), Vela::Result(Vela::Result::Success));
     QCOMPARE(m_view->geometry(), QRect(0, 19, 1000, 562));
+
+    // Unlocked, the view fills the widget whatever the export size.
+    QVERIFY(m_play->IsLockRatio());
+    m_play->SetLockRatio(false);
+    QCOMPARE(m_view->geometry(), QRect(0, 0, 1000, 600));
+    m_play->resize(640, 700);
+    m_play->SetExportSize(1280, 720);
+    QCOMPARE(m_view->geometry(), QRect(0, 0, 640, 700));
+    m_play->SetLockRatio(true);
+    QCOMPARE(m_view->geometry(), QRect(0, 170, 640, 360));
 }
 
 void tst_QKdPlayWidget::invalidExportSize_data()
@@ -119,19 +128,6 @@ void tst_QKdPlayWidget::invalidExportSize()
     QCOMPARE(m_play->SetExportSize(width, height).code(), 0x80000003u);
     QCOMPARE(exportSize(*m_play), QSize(800, 600));
     QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
-}
-
-void tst_QKdPlayWidget::unlockedRatioFills()
-{
-    QVERIFY(m_play->IsLockRatio());
-    m_play->SetLockRatio(false);
-    QCOMPARE(m_view->geometry(), QRect(0, 0, 1000, 600));
-    m_play->resize(640, 700);
-    m_play->SetExportSize(1920, 1080);
-    QCOMPARE(m_view->geometry(), QRect(0, 0, 640, 700));
-
-    m_play->SetLockRatio(true);
-    QCOMPARE(m_view->geometry(), QRect(0, 170, 640, 360));
 }
 
 void tst_QKdPlayWidget::viewFoundAmongDescendants()

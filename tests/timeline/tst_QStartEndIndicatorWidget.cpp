@@ -51,12 +51,10 @@ private slots:
     void ratioGeometry_data();
     void ratioGeometry();
     void updateRatioPlacesAllMarkers();
-    void dragStartMarker();
-    void dragEndMarker();
+    void dragPlayRangeMarkers();
     void dragHiddenPreviewMarkers();
     void onlyLeftPressOnAMarkerDrags();
     void images();
-    void resizeKeepsMarkers();
 
 private:
     QImage shot() const { return m_indicator->grab().toImage(); }
@@ -69,7 +67,6 @@ private:
     }
 
     QStartEndIndicatorWidget *m_indicator = nullptr;
-    QWidget *m_slider = nullptr;
 };
 
 void tst_QStartEndIndicatorWidget::init()
@@ -77,8 +74,8 @@ void tst_QStartEndIndicatorWidget::init()
     m_indicator = new QStartEndIndicatorWidget;
     m_indicator->resize(300, 100);
     // A child that paints nothing, so that markers drawn under it stay visible in shots.
-    m_slider = new QWidget(m_indicator);
-    m_slider->setGeometry(kSlider);
+    auto *slider = new QWidget(m_indicator);
+    slider->setGeometry(kSlider);
     m_indicator->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_indicator));
     QCOMPARE(m_indicator->childrenRect(), kSlider);
@@ -102,7 +99,6 @@ void tst_QStartEndIndicatorWidget::ratioGeometry_data()
     // begins on it.
     QTest::newRow("full range") << 0 << 0.0f << 1.0f << 10 << 220;
     QTest::newRow("middle") << 0 << 0.25f << 0.75f << 60 << 170;
-    QTest::newRow("full range, offset 5") << 5 << 0.0f << 1.0f << 15 << 215;
     QTest::newRow("thirds, offset 5") << 5 << 0.333f << 0.667f << 78 << 151;
 }
 
@@ -124,8 +120,6 @@ void tst_QStartEndIndicatorWidget::ratioGeometry()
     // Both sit right below the slider, from its last row down.
     QVERIFY(image.pixelColor(startX + 1, 48) != kStart);
     QCOMPARE(image.pixelColor(startX + 1, 49), kStart);
-    QCOMPARE(image.pixelColor(startX + 1, 64), kStart);
-    QVERIFY(image.pixelColor(startX + 1, 65) != kStart);
 }
 
 void tst_QStartEndIndicatorWidget::updateRatioPlacesAllMarkers()
@@ -145,29 +139,25 @@ void tst_QStartEndIndicatorWidget::updateRatioPlacesAllMarkers()
     QCOMPARE(image.pixelColor(52, 41), kPreviewStart);
 }
 
-void tst_QStartEndIndicatorWidget::dragStartMarker()
+void tst_QStartEndIndicatorWidget::dragPlayRangeMarkers()
 {
     QSignalSpy startSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderStartRatio);
     QSignalSpy endSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderEndRatio);
     m_indicator->SetStartRatio(0.0f); // x 10
     m_indicator->SetEndRatio(0.5f); // x 120
-    // To 0.2, then past the end marker, then before the track.
+    // To 0.2, then past the end marker (stopped with its right edge on the end marker's left
+    // edge), then before the track.
     drag(QPoint(13, kBelow), { QPoint(53, kBelow), QPoint(250, kBelow), QPoint(-40, kBelow) });
-
-    // The second stopped with its right edge on the end marker's left edge.
     QCOMPARE(ratios(startSpy), QList<float>({ 0.2f, 0.5f, 0.0f }));
     QCOMPARE(endSpy.count(), 0);
     QCOMPARE(column(shot(), kBelow, kStart), 10);
-}
 
-void tst_QStartEndIndicatorWidget::dragEndMarker()
-{
-    QSignalSpy endSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderEndRatio);
     m_indicator->SetStartRatio(0.25f); // x 60
     m_indicator->SetEndRatio(0.75f); // x 170
     // Before the start marker, past the track end, then to 0.5.
     drag(QPoint(173, kBelow), { QPoint(3, kBelow), QPoint(400, kBelow), QPoint(123, kBelow) });
     QCOMPARE(ratios(endSpy), QList<float>({ 0.25f, 1.0f, 0.5f }));
+    QCOMPARE(startSpy.count(), 3);
     QCOMPARE(column(shot(), kBelow, kEnd), 120);
 }
 
@@ -233,19 +223,6 @@ void tst_QStartEndIndicatorWidget::images()
     QCOMPARE(column(image, kBelow, Qt::red), -1);
     QCOMPARE(image.pixelColor(16, kBelow), kStart);
     QCOMPARE(image.pixelColor(225, kBelow), kEnd);
-}
-
-void tst_QStartEndIndicatorWidget::resizeKeepsMarkers()
-{
-    m_indicator->SetStartRatio(0.5f); // x 110
-    m_slider->setGeometry(20, 30, 300, 20);
-    m_indicator->resize(400, 100);
-    QCOMPARE(column(shot(), kBelow, kStart), 110);
-    // The offset applies from the next placement on.
-    m_indicator->SetStartEndIndicatorCSSOffset(10);
-    QCOMPARE(column(shot(), kBelow, kStart), 110);
-    m_indicator->SetStartRatio(0.5f); // base 20, track 280
-    QCOMPARE(column(shot(), kBelow, kStart), 160);
 }
 
 VELA_TEST_CLASS(tst_QStartEndIndicatorWidget)
