@@ -64,14 +64,12 @@ class tst_QGroupWidget : public QObject
 
 private slots:
     void titleClickOpensAndCloses();
-    void names();
     void lazyCreation();
     void placement();
     void otherWidgetsAreDeleted();
     void badCreators();
     void subGroups();
     void hasVisibleChildWidget();
-    void removeSubWidget();
 };
 
 void tst_QGroupWidget::titleClickOpensAndCloses()
@@ -92,21 +90,17 @@ void tst_QGroupWidget::titleClickOpensAndCloses()
                  open ? QStringLiteral(" -  Surface") : QStringLiteral(" +  Surface"));
     }
 
+    // The name without spaces names the group, its button and its container.
+    group.setProperty("text", QStringLiteral("Detail  Normal"));
+    QCOMPARE(titleButton(group)->text(), QStringLiteral(" +  Detail  Normal"));
+    for (QObject *object :
+         QList<QObject *> { &group, titleButton(group), group.GetNumericalContainer() })
+        QCOMPARE(object->objectName(), QStringLiteral("DetailNormal"));
+
     // The group paints its style sheet's background.
     group.setStyleSheet(QStringLiteral("QGroupWidget { background-color: #123456; }"));
     group.resize(200, 80);
     QCOMPARE(group.grab().toImage().pixelColor(190, 75), QColor(0x12, 0x34, 0x56));
-}
-
-void tst_QGroupWidget::names()
-{
-    // The name without spaces names the group, its button and its container.
-    QGroupWidget group(nullptr, QStringLiteral("Base Color Maps"), true);
-    group.setProperty("text", QStringLiteral("Detail  Normal"));
-    QCOMPARE(titleButton(group)->text(), QStringLiteral(" -  Detail  Normal"));
-    for (QObject *object :
-         QList<QObject *> { &group, titleButton(group), group.GetNumericalContainer() })
-        QCOMPARE(object->objectName(), QStringLiteral("DetailNormal"));
 }
 
 void tst_QGroupWidget::lazyCreation()
@@ -173,6 +167,15 @@ void tst_QGroupWidget::placement()
     QCOMPARE(first->itemAt(1)->widget(), image2);
     QCOMPARE(second->count(), 1);
     QCOMPARE(second->itemAt(0)->widget(), image3);
+
+    // Removing takes a widget out of its row, or out of the group; the row container stays.
+    group.RemoveSubWidget(image3);
+    group.RemoveSubWidget(numerical);
+    group.RemoveSubWidget(nullptr);
+    QCOMPARE(placed(group), (QList<QWidget *> { widgets.at(0), widgets.at(2) }));
+    QCOMPARE(second->count(), 0);
+    delete numerical;
+    delete image3;
 }
 
 void tst_QGroupWidget::otherWidgetsAreDeleted()
@@ -265,22 +268,6 @@ void tst_QGroupWidget::hasVisibleChildWidget()
     late->SetSbsarVisibleif(false);
     group.PlaceImageWidget(late);
     QVERIFY(!group.HasVisibleChildWidget());
-}
-
-void tst_QGroupWidget::removeSubWidget()
-{
-    QGroupWidget group(nullptr, QStringLiteral("Remove"), true);
-    auto *numerical = new PlainNumericalWidget;
-    QSbsImageWidget *image = imageWidget(QStringLiteral("Image"));
-    group.PlaceNumericalWidget(numerical);
-    group.PlaceImageWidget(image);
-    group.RemoveSubWidget(image);
-    group.RemoveSubWidget(numerical);
-    group.RemoveSubWidget(nullptr);
-    QCOMPARE(group.GetNumericalLayout()->count(), 1); // the image row container stays
-    QCOMPARE(placed(group).at(0)->layout()->count(), 0);
-    delete numerical;
-    delete image;
 }
 
 VELA_TEST_CLASS(tst_QGroupWidget)
