@@ -28,8 +28,7 @@ private slots:
     void exportSizeAndRatioLock();
     void invalidExportSize_data();
     void invalidExportSize();
-    void viewFoundAmongDescendants();
-    void withoutViewOrClose();
+    void hostViews();
 
 private:
     QWidget *m_window = nullptr;
@@ -130,35 +129,27 @@ void tst_QKdPlayWidget::invalidExportSize()
     QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
 }
 
-void tst_QKdPlayWidget::viewFoundAmongDescendants()
+void tst_QKdPlayWidget::hostViews()
 {
-    // A render view wrapped in a host frame: the first descendant widget is laid out.
-    QKdPlayWidget play(m_window);
-    QWidget frame(&play);
-    QWidget inner(&frame);
-    const QRect innerGeometry = inner.geometry();
-    play.setGeometry(0, 0, 1000, 600);
-    play.show();
-    play.UpdateKdCoreWndSize();
-    QCOMPARE(frame.geometry(), QRect(100, 0, 800, 600));
-    QCOMPARE(inner.geometry(), innerGeometry);
-}
-
-void tst_QKdPlayWidget::withoutViewOrClose()
-{
+    // Without a view every layout does nothing; the window cannot be closed.
     QKdPlayWidget play;
-    play.resize(200, 150);
+    play.resize(1000, 600);
     play.show();
     QVERIFY(QTest::qWaitForWindowExposed(&play));
     play.UpdateKdCoreWndSize();
-    QCOMPARE(play.UpdateExportSize(), Vela::Result(Vela::Result::Success));
-    QCOMPARE(play.SetExportSize(1280, 720), Vela::Result(Vela::Result::Success));
     play.SetLockRatio(false);
-    play.resize(0, 0);
-
-    // The render view's window cannot be closed.
+    play.SetLockRatio(true);
+    QCOMPARE(play.UpdateExportSize(), Vela::Result(Vela::Result::Success));
     QVERIFY(!play.close());
     QVERIFY(play.isVisible());
+
+    // A render view wrapped in a host frame: the first descendant widget is laid out.
+    QWidget frame(&play);
+    QWidget inner(&frame);
+    const QRect innerGeometry = inner.geometry();
+    play.UpdateKdCoreWndSize();
+    QCOMPARE(frame.geometry(), QRect(100, 0, 800, 600));
+    QCOMPARE(inner.geometry(), innerGeometry);
 }
 
 VELA_TEST_CLASS(tst_QKdPlayWidget)
