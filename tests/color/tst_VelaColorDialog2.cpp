@@ -20,19 +20,19 @@ private slots:
     void init();
     void cleanup();
 
-    void defaults();
-    void colourFieldsFoundByClass();
     void onlyResetButton();
-    void dragInColourField();
-    void pressInLuminanceField();
+    void dragInLuminanceField();
     void spinBoxPressFinishesOnRelease();
     void screenPicker();
     void placement_data();
     void placement();
-    void noPlacementWithoutMainWindow();
 
 private:
-    void showDialog();
+    void showDialog()
+    {
+        m_dialog->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
+    }
 
     std::unique_ptr<VelaColorDialog2> m_dialog;
 };
@@ -47,100 +47,57 @@ void tst_VelaColorDialog2::cleanup()
     m_dialog.reset();
 }
 
-void tst_VelaColorDialog2::showDialog()
-{
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));
-}
-
-void tst_VelaColorDialog2::defaults()
-{
-    QVERIFY(!m_dialog->IsModeless());
-    QVERIFY(!m_dialog->IsEditing());
-    QVERIFY(!m_dialog->IsPickingScreenColor());
-    m_dialog->SetModeless();
-    QVERIFY(m_dialog->IsModeless());
-    QVERIFY(m_dialog->testOption(QColorDialog::DontUseNativeDialog));
-}
-
-void tst_VelaColorDialog2::colourFieldsFoundByClass()
-{
-    // Qt 5.15 has its colour field and luminance field at descendants 7 and 8; 9 and 10 are the
-    // colour shower and its label, which take no drags.
-    const QList<QWidget *> children = m_dialog->findChildren<QWidget *>();
-    QVERIFY(children.size() > 10);
-    QCOMPARE(children.at(7)->metaObject()->className(), "QColorPicker");
-    QCOMPARE(children.at(8)->metaObject()->className(), "QColorLuminancePicker");
-    QCOMPARE(children.at(9)->metaObject()->className(), "QColorShower");
-    QCOMPARE(children.at(10)->metaObject()->className(), "QColorShowLabel");
-
-    // The first push button is the one that starts the screen picker.
-    const QList<QPushButton *> buttons = m_dialog->findChildren<QPushButton *>();
-    QVERIFY(!buttons.isEmpty());
-    QCOMPARE(buttons.first()->text(), QStringLiteral("&Pick Screen Color"));
-}
-
 void tst_VelaColorDialog2::onlyResetButton()
 {
-    const QList<QDialogButtonBox *> boxes = m_dialog->findChildren<QDialogButtonBox *>();
-    QCOMPARE(boxes.size(), 1);
-    const QList<QAbstractButton *> buttons = boxes.first()->buttons();
-    QCOMPARE(buttons.size(), 1);
-    QCOMPARE(buttons.first()->text(), QStringLiteral("Reset Color"));
-    QCOMPARE(boxes.first()->buttonRole(buttons.first()), QDialogButtonBox::ActionRole);
+    QVERIFY(!m_dialog->IsModeless());
+    QVERIFY(m_dialog->testOption(QColorDialog::DontUseNativeDialog));
+    auto *box = m_dialog->findChild<QDialogButtonBox *>();
+    QVERIFY(box);
+    QCOMPARE(box->buttons().size(), 1);
+    QAbstractButton *reset = box->buttons().first();
+    QCOMPARE(reset->text(), QStringLiteral("Reset Color"));
 
+    // With a main window but no position, the show places nothing and reports nothing.
+    QWidget mainWindow;
+    m_dialog->SetMainWnd(&mainWindow);
+    m_dialog->SetPosition(ECDP_None);
+    QSignalSpy shown(m_dialog.get(), &VelaColorDialog2::ColorChanged2);
     showDialog();
-    for (QPushButton *button : boxes.first()->findChildren<QPushButton *>())
-        QCOMPARE(button->isVisible(), button == buttons.first());
-
-    QSignalSpy reset(m_dialog.get(), &VelaColorDialog2::ResetColor);
+    QCOMPARE(shown.count(), 0);
+    for (QPushButton *button : box->findChildren<QPushButton *>())
+        QCOMPARE(button->isVisible(), button == reset);
+    QSignalSpy resetSpy(m_dialog.get(), &VelaColorDialog2::ResetColor);
     QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
-    QTest::mouseClick(buttons.first(), Qt::LeftButton);
-    QCOMPARE(reset.count(), 1);
+    QTest::mouseClick(reset, Qt::LeftButton);
+    QCOMPARE(resetSpy.count(), 1);
     QCOMPARE(finished.count(), 0);
     // Neither accepted nor rejected: the dialog stays open.
     QVERIFY(m_dialog->isVisible());
 }
 
-void tst_VelaColorDialog2::dragInColourField()
+// Editing lasts from the press to the release, which is one finished edit (the colour field:
+// tst_QColorButton2).
+void tst_VelaColorDialog2::dragInLuminanceField()
 {
     m_dialog->setCurrentColor(QColor(128, 64, 32));
     showDialog();
-    QWidget *field = ColorTest::childOfClass(m_dialog.get(), "QColorPicker");
+    QWidget *field = ColorTest::childOfClass(m_dialog.get(), "QColorLuminancePicker");
     QVERIFY(field);
 
     QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
     QList<bool> editingWhenChanged;
     connect(m_dialog.get(), &QColorDialog::currentColorChanged, this,
             [&]() { editingWhenChanged << m_dialog->IsEditing(); });
-
-    QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(10, 10));
-    QVERIFY(m_dialog->IsEditing());
-    QTest::mouseMove(field, QPoint(40, 30));
-    QTest::mouseMove(field, QPoint(60, 50));
+    const int x = field->width() / 2;
+    QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(x, 10));
+    QTest::mouseMove(field, QPoint(x, 30));
+    QTest::mouseMove(field, QPoint(x, 50));
     QCOMPARE(finished.count(), 0);
-    QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, QPoint(60, 50));
+    QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, QPoint(x, 50));
     QVERIFY(!m_dialog->IsEditing());
-
     QCOMPARE(editingWhenChanged, (QList<bool> { true, true, true }));
     QCOMPARE(finished.count(), 1);
     QCOMPARE(finished.at(0).at(0).value<QColor>(), m_dialog->currentColor());
-    QVERIFY(m_dialog->currentColor() != QColor(128, 64, 32));
-}
-
-void tst_VelaColorDialog2::pressInLuminanceField()
-{
-    m_dialog->setCurrentColor(QColor(200, 10, 10));
-    showDialog();
-    QWidget *field = ColorTest::childOfClass(m_dialog.get(), "QColorLuminancePicker");
-    QVERIFY(field);
-    QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
-    QTest::mousePress(field, Qt::LeftButton, Qt::NoModifier, QPoint(field->width() / 2, 40));
-    QVERIFY(m_dialog->IsEditing());
-    QTest::mouseRelease(field, Qt::LeftButton, Qt::NoModifier, QPoint(field->width() / 2, 40));
-    QVERIFY(!m_dialog->IsEditing());
-    QCOMPARE(finished.count(), 1);
-    QVERIFY(m_dialog->currentColor() != QColor(200, 10, 10));
 }
 
 void tst_VelaColorDialog2::spinBoxPressFinishesOnRelease()
@@ -149,7 +106,6 @@ void tst_VelaColorDialog2::spinBoxPressFinishesOnRelease()
     showDialog();
     QSpinBox *spin = m_dialog->findChildren<QSpinBox *>().value(3); // red
     QVERIFY(spin);
-    QCOMPARE(spin->value(), 10);
 
     QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
     // The step-up arrow at the spin box's top right.
@@ -160,7 +116,6 @@ void tst_VelaColorDialog2::spinBoxPressFinishesOnRelease()
     QTest::mouseRelease(spin, Qt::LeftButton, Qt::NoModifier, up);
     QVERIFY(!m_dialog->IsEditing());
     QCOMPARE(finished.count(), 1);
-    QCOMPARE(m_dialog->currentColor(), QColor(11, 20, 30));
     QCOMPARE(finished.at(0).at(0).value<QColor>(), QColor(11, 20, 30));
 }
 
@@ -172,12 +127,11 @@ void tst_VelaColorDialog2::screenPicker()
     QSignalSpy finished(m_dialog.get(), &VelaColorDialog2::EditFinished);
 
     QTest::mouseClick(pick, Qt::LeftButton);
-    QVERIFY(!pick->isEnabled());
     QVERIFY(m_dialog->IsPickingScreenColor());
     m_dialog->setCurrentColor(QColor(200, 100, 50));
     QCOMPARE(finished.count(), 0);
 
-    // Escape ends the picker and restores the colour from before it started.
+    // Escape ends the picker: one finished edit, and the dialog stays open.
     QTest::keyClick(m_dialog.get(), Qt::Key_Escape);
     QVERIFY(pick->isEnabled());
     QVERIFY(!m_dialog->IsPickingScreenColor());
@@ -186,7 +140,6 @@ void tst_VelaColorDialog2::screenPicker()
 
     // Enabling the button again without a requested pick reports nothing.
     pick->setEnabled(false);
-    QVERIFY(m_dialog->IsPickingScreenColor());
     pick->setEnabled(true);
     QVERIFY(m_dialog->IsPickingScreenColor());
     QCOMPARE(finished.count(), 1);
@@ -229,8 +182,7 @@ void tst_VelaColorDialog2::placement()
         left = G.left() + M.right() - 10 - G.right();
     if (position == 3 || position == 4)
         top = G.top() + M.bottom() - G.bottom() - 12;
-    QCOMPARE(m_dialog->geometry().left(), left);
-    QCOMPARE(m_dialog->geometry().top(), top);
+    QCOMPARE(m_dialog->geometry().topLeft(), QPoint(left, top));
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.at(0).at(0).value<QColor>(), QColor(9, 8, 7));
 
@@ -241,23 +193,6 @@ void tst_VelaColorDialog2::placement()
     showDialog();
     QCOMPARE(m_dialog->geometry(), placed);
     QCOMPARE(changed.count(), 2);
-}
-
-void tst_VelaColorDialog2::noPlacementWithoutMainWindow()
-{
-    QWidget mainWindow;
-    m_dialog->SetMainWnd(&mainWindow);
-    m_dialog->SetPosition(ECDP_None);
-    QSignalSpy changed(m_dialog.get(), &VelaColorDialog2::ColorChanged2);
-    showDialog();
-    QCOMPARE(changed.count(), 0);
-    m_dialog->hide();
-
-    VelaColorDialog2 unplaced(nullptr);
-    QSignalSpy unplacedChanged(&unplaced, &VelaColorDialog2::ColorChanged2);
-    unplaced.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&unplaced));
-    QCOMPARE(unplacedChanged.count(), 0);
 }
 
 VELA_TEST_CLASS(tst_VelaColorDialog2)

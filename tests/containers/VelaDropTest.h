@@ -70,21 +70,6 @@ private:
     bool m_lastAccepted = false;
 };
 
-// Rows of pointer offsets from a press, with whether a drag starts there: exactly at the
-// start-drag distance, straight or diagonal, and one pixel short of it.
-inline void addStartDistanceRows()
-{
-    const int distance = QApplication::startDragDistance();
-    QTest::addColumn<QPoint>("offset");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
-    QTest::newRow("one pixel short, diagonal")
-        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
-    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
-    QTest::newRow("exactly the distance, diagonal")
-        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
-}
-
 // The offscreen platform answers every raise of a window with this warning: expecting it counts
 // the times a widget brought its window to the front (a missing one fails the test).
 inline void expectWindowRaised(int times)

@@ -22,21 +22,20 @@ private slots:
     void cleanup();
 
     void refusedWithoutInterfaceOrParent();
-    void dragEnterAsksInterface_data();
-    void dragEnterAsksInterface();
-    void dropOffersFiles_data();
-    void dropOffersFiles();
+    void dropAsksInterface_data();
+    void dropAsksInterface();
     void dragMoveMarksTarget();
     void rightButton();
 
 private:
-    QPoint itemCenter(int row) const;
-    QPoint emptySpace() const;
+    QPoint itemCenter(int row) const { return m_list->visualItemRect(m_list->item(row)).center(); }
+    QPoint emptySpace() const { return QPoint(20, m_list->viewport()->height() - 5); }
+    bool marked(int row) const { return m_list->item(row)->data(kDropTargetRole).toBool(); }
 
     QWidget *m_window = nullptr;
     QDragDropListWidget *m_list = nullptr;
     RecordingListInterface m_interface;
-    QStringList m_files;
+    const QStringList m_files { "/tmp/assets/a.png", "/tmp/b.fbx", "/tmp/c d.obj" };
 };
 
 void tst_QDragDropListWidget::init()
@@ -54,7 +53,6 @@ void tst_QDragDropListWidget::init()
     m_interface = RecordingListInterface();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
-    m_files = QStringList { "/tmp/assets/a.png", "/tmp/b.fbx", "/tmp/c d.obj" };
 }
 
 void tst_QDragDropListWidget::cleanup()
@@ -64,165 +62,114 @@ void tst_QDragDropListWidget::cleanup()
     m_list = nullptr;
 }
 
-QPoint tst_QDragDropListWidget::itemCenter(int row) const
-{
-    return m_list->visualItemRect(m_list->item(row)).center();
-}
-
-QPoint tst_QDragDropListWidget::emptySpace() const
-{
-    return QPoint(20, m_list->viewport()->height() - 5);
-}
-
 void tst_QDragDropListWidget::refusedWithoutInterfaceOrParent()
 {
-    VelaDropTest::expectWindowRaised(6);
+    VelaDropTest::expectWindowRaised(3);
     const auto mimeData = VelaTest::fileMime(m_files);
     QVERIFY(!VelaTest::dragEnter(m_list->viewport(), itemCenter(0), mimeData.get()));
-    QVERIFY(!VelaTest::dragEnter(m_list->viewport(), emptySpace(), mimeData.get()));
 
-    // An interface withdrawn during the drag: the drop is ignored, on an item and on empty space.
-    for (const QPoint &pos : { itemCenter(0), emptySpace() }) {
-        m_list->SetInterface(&m_interface);
-        VelaDropTest::DragSession drag(m_list->viewport(), pos, mimeData.get());
+    // A drag without links is refused without asking.
+    m_list->SetInterface(&m_interface);
+    QMimeData text;
+    text.setText(m_files.first());
+    QVERIFY(!VelaTest::dragEnter(m_list->viewport(), itemCenter(0), &text));
+
+    // An interface withdrawn during the drag: the drop is ignored.
+    {
+        VelaDropTest::DragSession drag(m_list->viewport(), emptySpace(), mimeData.get());
         QVERIFY(drag.entered());
         m_list->SetInterface(nullptr);
-        QVERIFY(!drag.drop(pos));
+        QVERIFY(!drag.drop(emptySpace()));
     }
-    QCOMPARE(m_interface.calls, QStringList({ "CanDragEnter", "CanDragEnter" }));
-    QCOMPARE(m_list->count(), 3);
+    QCOMPARE(m_interface.calls, QStringList { "CanDragEnter" });
 
-    // A list without a parent refuses every drag, interface or not.
+    // A list without a parent refuses every drag without asking.
     m_interface.calls.clear();
     QDragDropListWidget list;
     list.setAcceptDrops(true);
-    list.addItem(QStringLiteral("Walk.fbx"));
     list.resize(200, 200);
     list.SetInterface(&m_interface);
     list.show();
     QVERIFY(QTest::qWaitForWindowExposed(&list));
-
-    QVERIFY(!VelaTest::dragEnter(list.viewport(), list.visualItemRect(list.item(0)).center(),
-                                 mimeData.get()));
     QVERIFY(!VelaTest::dragEnter(list.viewport(), QPoint(10, 190), mimeData.get()));
     QVERIFY(m_interface.calls.isEmpty());
 }
 
-void tst_QDragDropListWidget::dragEnterAsksInterface_data()
-{
-    QTest::addColumn<int>("fileCount");
-    QTest::addColumn<bool>("answer");
-    QTest::newRow("one file, accepted") << 1 << true;
-    QTest::newRow("three files, refused") << 3 << false;
-}
-
-void tst_QDragDropListWidget::dragEnterAsksInterface()
-{
-    VelaDropTest::expectWindowRaised(1);
-    QFETCH(int, fileCount);
-    QFETCH(bool, answer);
-    m_list->SetInterface(&m_interface);
-    m_interface.enterAnswer = answer;
-
-    const QStringList files = m_files.mid(0, fileCount);
-    const auto mimeData = VelaTest::fileMime(files);
-    QCOMPARE(VelaTest::dragEnter(m_list->viewport(), itemCenter(1), mimeData.get()), answer);
-    QCOMPARE(m_interface.calls, QStringList { "CanDragEnter" });
-    QCOMPARE(QStringList(m_interface.files.first()), files);
-
-    // A drag without links is refused without asking.
-    QMimeData text;
-    text.setText(QStringLiteral("/tmp/a.png"));
-    QVERIFY(!VelaTest::dragEnter(m_list->viewport(), itemCenter(0), &text));
-    QCOMPARE(m_interface.calls.size(), 1);
-}
-
-void tst_QDragDropListWidget::dropOffersFiles_data()
+void tst_QDragDropListWidget::dropAsksInterface_data()
 {
     QTest::addColumn<int>("fileCount");
     QTest::addColumn<bool>("onItem");
-    QTest::addColumn<bool>("answer");
-    QTest::newRow("one file, empty space") << 1 << false << true;
-    QTest::newRow("three files, empty space") << 3 << false << true;
-    QTest::newRow("three files, on an item") << 3 << true << true;
-    QTest::newRow("refused on empty space") << 3 << false << false;
-    QTest::newRow("refused on an item") << 3 << true << false;
+    QTest::addColumn<bool>("enterAnswer");
+    QTest::addColumn<bool>("dropAnswer");
+    QTest::newRow("refused at the enter") << 1 << true << false << true;
+    QTest::newRow("three files, empty space") << 3 << false << true << true;
+    QTest::newRow("three files, on an item") << 3 << true << true << true;
+    QTest::newRow("refused on empty space") << 3 << false << true << false;
+    QTest::newRow("refused on an item") << 3 << true << true << false;
 }
 
-// On empty space the host is offered every file; on an item, the first file and the item. The
-// drop is taken as the host answers.
-void tst_QDragDropListWidget::dropOffersFiles()
+// The host is asked at the enter with every file; at the drop, on empty space with every file,
+// on an item with the first file and the item. The list adds nothing itself.
+void tst_QDragDropListWidget::dropAsksInterface()
 {
-    VelaDropTest::expectWindowRaised(2);
     QFETCH(int, fileCount);
     QFETCH(bool, onItem);
-    QFETCH(bool, answer);
+    QFETCH(bool, enterAnswer);
+    QFETCH(bool, dropAnswer);
+    VelaDropTest::expectWindowRaised(enterAnswer ? 2 : 1);
     m_list->SetInterface(&m_interface);
-    m_interface.dropAnswer = answer;
+    m_interface.enterAnswer = enterAnswer;
+    m_interface.dropAnswer = dropAnswer;
     const QStringList files = m_files.mid(0, fileCount);
     const auto mimeData = VelaTest::fileMime(files);
 
     QCOMPARE(
         VelaTest::dropAt(m_list->viewport(), onItem ? itemCenter(1) : emptySpace(), mimeData.get()),
-        answer);
-    QCOMPARE(m_interface.calls,
-             QStringList({ "CanDragEnter", onItem ? "CanDropFile" : "CanDropFileList" }));
-    QCOMPARE(QStringList(m_interface.files.at(1)), onItem ? QStringList(files.mid(0, 1)) : files);
-    QCOMPARE(m_interface.item, onItem ? m_list->item(1) : nullptr);
-    // The list adds nothing itself: that is the host's business.
+        enterAnswer && dropAnswer);
+    QCOMPARE(QStringList(m_interface.files.first()), files);
+    if (enterAnswer) {
+        QCOMPARE(m_interface.calls,
+                 QStringList({ "CanDragEnter", onItem ? "CanDropFile" : "CanDropFileList" }));
+        QCOMPARE(QStringList(m_interface.files.at(1)),
+                 onItem ? QStringList(files.mid(0, 1)) : files);
+        QCOMPARE(m_interface.item, onItem ? m_list->item(1) : nullptr);
+    } else {
+        QCOMPARE(m_interface.calls, QStringList { "CanDragEnter" });
+    }
     QCOMPARE(m_list->count(), 3);
 }
 
 void tst_QDragDropListWidget::dragMoveMarksTarget()
 {
-    VelaDropTest::expectWindowRaised(3);
+    VelaDropTest::expectWindowRaised(2);
     m_list->SetInterface(&m_interface);
     const auto mimeData = VelaTest::fileMime(m_files.mid(0, 1));
     VelaDropTest::DragSession drag(m_list->viewport(), emptySpace(), mimeData.get());
-
     QVERIFY(drag.move(itemCenter(1)));
-    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), true);
-    QCOMPARE(m_list->item(0)->data(kDropTargetRole).toBool(), false);
-
     QVERIFY(drag.move(itemCenter(0)));
-    QCOMPARE(m_list->item(0)->data(kDropTargetRole).toBool(), true);
-    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), false);
-
-    // Empty space takes drops too, and no item stays marked.
+    QVERIFY(marked(0) && !marked(1));
+    // An item of negative data refuses the drag, and unmarks the one before.
+    QVERIFY(!drag.move(itemCenter(2)));
+    QVERIFY(!marked(2) && !marked(0));
+    // Empty space takes drops too; the mark of the last move stays after the drop.
     QVERIFY(drag.move(emptySpace()));
-    for (int row = 0; row < m_list->count(); ++row)
-        QCOMPARE(m_list->item(row)->data(kDropTargetRole).toBool(), false);
-
-    // The mark of the last move stays after the drop.
     QVERIFY(drag.move(itemCenter(1)));
     QVERIFY(drag.drop(itemCenter(1)));
-    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), true);
-
-    // An item of negative data refuses the drag, and unmarks the one before.
-    const auto second = VelaTest::fileMime(m_files.mid(0, 1));
-    VelaDropTest::DragSession other(m_list->viewport(), emptySpace(), second.get());
-    QVERIFY(other.move(itemCenter(1)));
-    QVERIFY(!other.move(itemCenter(2)));
-    QCOMPARE(m_list->item(2)->data(kDropTargetRole).toBool(), false);
-    QCOMPARE(m_list->item(1)->data(kDropTargetRole).toBool(), false);
-    QVERIFY(other.move(itemCenter(0)));
+    QVERIFY(marked(1));
 }
 
 void tst_QDragDropListWidget::rightButton()
 {
+    // A right click neither selects nor makes current; its release, not a left one, calls the
+    // interface.
     m_list->setCurrentRow(0);
-    // Without an interface as with one.
     QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(1));
     m_list->SetInterface(&m_interface);
-    QTest::mousePress(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(2));
-    QCOMPARE(m_list->currentRow(), 0);
-    QTest::mouseRelease(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(2));
+    QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, itemCenter(2));
     QCOMPARE(m_list->currentRow(), 0);
     QCOMPARE(m_list->selectedItems(), QList<QListWidgetItem *> { m_list->item(0) });
-
     QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, itemCenter(2));
     QCOMPARE(m_list->currentRow(), 2);
-    // The right release, not the left one, called the interface.
     QCOMPARE(m_interface.calls, QStringList { "MouseRButtonRelease" });
 }
 

@@ -31,13 +31,9 @@ private slots:
     void init();
     void cleanup();
 
-    void defaults();
-    void clickSelectsOnce();
-    void selectedFrameGeometry();
-    void hoverFrameAndSelectionWins();
-    void noFrameWithoutPixmapOrWhenDisabled();
-    void doubleClickLoadsChosenImage();
-    void doubleClickWithoutPath();
+    void clickSelects();
+    void frames();
+    void doubleClick();
     void dragEnterFilter_data();
     void dragEnterFilter();
     void dropLoadsImage();
@@ -72,114 +68,63 @@ void tst_QItemLabel::cleanup()
     m_label = nullptr;
 }
 
-void tst_QItemLabel::defaults()
+void tst_QItemLabel::clickSelects()
 {
-    QItemLabel label;
-    QCOMPARE(label.GetSelected(), false);
-    QCOMPARE(label.property("FrameLineWidth").toDouble(), 0.0);
-    QCOMPARE(label.property("SelectedOuterColor").value<QColor>(), QColor(18, 18, 18));
-    QCOMPARE(label.property("SelectedMiddleColor").value<QColor>(), QColor(80, 80, 80));
-    QCOMPARE(label.property("SelectedInnerColor").value<QColor>(), QColor(230, 230, 230));
-    QCOMPARE(label.property("HoverOuterColor").value<QColor>(), QColor(85, 85, 255));
-    QCOMPARE(label.property("HoverMiddleColor").value<QColor>(), QColor(170, 170, 255));
-    QCOMPARE(label.property("HoverInnerColor").value<QColor>(), QColor(85, 255, 127));
-    QCOMPARE(label.property("DragFilter").toString(), QString());
-
-    QVERIFY(label.setProperty("DragFilter", QStringLiteral("png tga")));
-    QCOMPARE(label.GetFileFilter(), QStringLiteral("png tga"));
-    QVERIFY(label.setProperty("HoverInnerColor", QColor(Qt::red)));
-    QCOMPARE(label.GetHoverInnerLineColor(), QColor(Qt::red));
-}
-
-void tst_QItemLabel::clickSelectsOnce()
-{
-    QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(m_label->GetSelected(), true);
-    QCOMPARE(m_events, QStringList({ "SelectedChanged", "clicked" }));
-
-    m_events.clear();
-    QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(m_label->GetSelected(), true);
-    QCOMPARE(m_events, QStringList { "clicked" });
-
-    // Any button selects, on the press.
-    m_label->SetSelected(false);
-    m_events.clear();
+    // Any button selects, on the press; a press never deselects.
     QTest::mousePress(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
-    QCOMPARE(m_label->GetSelected(), true);
+    QVERIFY(m_label->GetSelected());
     QTest::mouseRelease(m_label, Qt::RightButton, Qt::NoModifier, QPoint(10, 10));
-    QTest::mouseClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(10, 10));
+    QTest::mouseClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QVERIFY(m_label->GetSelected());
     QCOMPARE(m_events, QStringList({ "SelectedChanged", "clicked", "clicked" }));
 
-    // SetSelected signals changes only; a press never deselects, but the host may.
+    // SetSelected signals changes only.
     m_events.clear();
-    m_label->SetSelected(false);
-    m_label->SetSelected(false);
-    m_label->SetSelected(true);
     m_label->SetSelected(true);
     m_label->SetSelected(false);
-    QCOMPARE(m_events, QStringList({ "SelectedChanged", "SelectedChanged", "SelectedChanged" }));
-    QCOMPARE(m_label->GetSelected(), false);
+    m_label->SetSelected(false);
+    QCOMPARE(m_events, QStringList({ "SelectedChanged" }));
 }
 
-void tst_QItemLabel::selectedFrameGeometry()
+void tst_QItemLabel::frames()
 {
-    const QColor middle = m_label->GetSelectMiddleLineColor();
-    const QColor inner = m_label->GetSelectInnerLineColor();
+    // Width 0: outer and middle both trace (0, 0, 99, 79), the middle drawn last; the inner line
+    // traces (2, 2, 95, 75).
     m_label->SetSelected(true);
-    const QImage image = m_label->grab().toImage();
-
-    // Width 0: outer and middle both trace (0, 0, 99, 79), the middle drawn last.
-    QCOMPARE(image.pixelColor(0, 0), middle);
-    QCOMPARE(image.pixelColor(99, 79), middle);
+    QImage image = m_label->grab().toImage();
+    QCOMPARE(image.pixelColor(0, 0), QColor(80, 80, 80));
     QCOMPARE(image.pixelColor(1, 1), kPicture);
-    // The inner line traces (2, 2, 95, 75).
-    QCOMPARE(image.pixelColor(2, 2), inner);
-    QCOMPARE(image.pixelColor(97, 77), inner);
+    QCOMPARE(image.pixelColor(2, 2), QColor(230, 230, 230));
     QCOMPARE(image.pixelColor(3, 3), kPicture);
-    QCOMPARE(image.pixelColor(98, 78), kPicture);
 
     // Wider lines, in the colours set.
     m_label->SetLineWidth(2.0);
     m_label->SetSelectOuterLineColor(Qt::red);
     m_label->SetSelectMiddleLineColor(Qt::green);
     m_label->SetSelectInnerLineColor(Qt::yellow);
-    const QImage thick = m_label->grab().toImage();
+    image = m_label->grab().toImage();
+    QCOMPARE(image.pixelColor(0, 40), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(2, 40), QColor(Qt::green)); // (2, 2, 95, 75)
+    QCOMPARE(image.pixelColor(95, 75), QColor(Qt::yellow)); // (4, 4, 91, 71)
+    QCOMPARE(image.pixelColor(5, 40), kPicture);
 
-    QCOMPARE(thick.pixelColor(0, 40), QColor(Qt::red));
-    QCOMPARE(thick.pixelColor(2, 40), QColor(Qt::green)); // (2, 2, 95, 75)
-    QCOMPARE(thick.pixelColor(97, 77), QColor(Qt::green));
-    QCOMPARE(thick.pixelColor(4, 40), QColor(Qt::yellow)); // (4, 4, 91, 71)
-    QCOMPARE(thick.pixelColor(95, 75), QColor(Qt::yellow));
-    QCOMPARE(thick.pixelColor(5, 40), kPicture);
-}
-
-void tst_QItemLabel::hoverFrameAndSelectionWins()
-{
+    // Hovered, the hover frame; selection wins over it.
+    m_label->SetLineWidth(0.0);
+    m_label->SetSelected(false);
     QEvent enter(QEvent::Enter);
     QApplication::sendEvent(m_label, &enter);
-    QCOMPARE(pixelAt(*m_label, 2, 2), m_label->GetHoverInnerLineColor());
-    QCOMPARE(pixelAt(*m_label, 0, 0), m_label->GetHoverMiddleLineColor());
-
+    QCOMPARE(pixelAt(*m_label, 2, 2), QColor(85, 255, 127));
+    QCOMPARE(pixelAt(*m_label, 0, 0), QColor(170, 170, 255));
     m_label->SetSelected(true);
-    QCOMPARE(pixelAt(*m_label, 2, 2), m_label->GetSelectInnerLineColor());
-
+    QCOMPARE(pixelAt(*m_label, 2, 2), QColor(Qt::yellow));
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(m_label, &leave);
-    m_label->SetSelected(false);
-    QCOMPARE(pixelAt(*m_label, 2, 2), kPicture);
-    QCOMPARE(pixelAt(*m_label, 0, 0), kPicture);
-}
 
-void tst_QItemLabel::noFrameWithoutPixmapOrWhenDisabled()
-{
-    m_label->SetSelected(true);
+    // A disabled label shows its picture greyed out, without a frame; no picture, no frame.
     m_label->setEnabled(false);
-    // A disabled label shows its picture greyed out, without a frame.
-    const QImage disabled = m_label->grab().toImage();
-    QCOMPARE(disabled.pixelColor(2, 2), disabled.pixelColor(50, 40));
-    QCOMPARE(disabled.pixelColor(0, 0), disabled.pixelColor(50, 40));
-
+    image = m_label->grab().toImage();
+    QCOMPARE(image.pixelColor(2, 2), image.pixelColor(50, 40));
+    QCOMPARE(image.pixelColor(0, 0), image.pixelColor(50, 40));
     m_label->setEnabled(true);
     m_label->setPixmap(QPixmap());
     const QColor background = m_label->palette().color(QPalette::Window);
@@ -187,56 +132,18 @@ void tst_QItemLabel::noFrameWithoutPixmapOrWhenDisabled()
     QCOMPARE(pixelAt(*m_label, 0, 0), background);
 }
 
-void tst_QItemLabel::doubleClickLoadsChosenImage()
-{
-    const QString path = VelaTest::writeImage(m_dir.path(), QStringLiteral("rock.png"),
-                                              Qt::darkGreen, QSize(100, 80));
-    int asked = 0;
-    m_label->SetGetOpenFileNameFunctor([&] {
-        ++asked;
-        return path;
-    });
-    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(asked, 1);
-    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10),
-             QColor(Qt::darkGreen));
-    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + path);
-    QVERIFY(!QApplication::overrideCursor());
-
-    // A path that cannot be read still replaces the picture, with an empty one.
-    const QString missing = m_dir.filePath(QStringLiteral("missing.png"));
-    m_label->SetGetOpenFileNameFunctor([&] { return missing; });
-    m_label->OnMouseDoubleClicked();
-    QVERIFY(m_label->pixmap(Qt::ReturnByValue).isNull());
-    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + missing);
-
-    // A thumbnail functor makes the picture instead.
-    QStringList thumbnailsFor;
-    m_label->SetGetOpenFileNameFunctor([&] { return path; });
-    m_label->SetSpecialThumbnailFunctor([&](const QString &file) {
-        thumbnailsFor << file;
-        return solidPixmap(QSize(20, 20), Qt::magenta);
-    });
-    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(thumbnailsFor, QStringList { path });
-    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(20, 20));
-    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + path);
-}
-
-void tst_QItemLabel::doubleClickWithoutPath()
+void tst_QItemLabel::doubleClick()
 {
     // No functor, then a cancelled dialog: nothing is loaded.
     QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QString chosen;
     int asked = 0;
     m_label->SetGetOpenFileNameFunctor([&] {
         ++asked;
-        return QString();
+        return chosen;
     });
     QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
-    QCOMPARE(asked, 1);
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), kPicture);
-    QVERIFY(!m_events.join(QLatin1Char(' ')).contains(QLatin1String("PreImageLoaded")));
-
     // The right button is reported instead; the others do nothing.
     QList<Qt::MouseButton> buttons;
     connect(m_label, &QItemLabel::RightDoubleClicked, this,
@@ -245,6 +152,33 @@ void tst_QItemLabel::doubleClickWithoutPath()
     QTest::mouseDClick(m_label, Qt::MiddleButton, Qt::NoModifier, QPoint(50, 40));
     QCOMPARE(buttons, QList<Qt::MouseButton> { Qt::RightButton });
     QCOMPARE(asked, 1);
+    QVERIFY(m_events.filter(QStringLiteral("PreImageLoaded")).isEmpty());
+
+    chosen = VelaTest::writeImage(m_dir.path(), QStringLiteral("rock.png"), Qt::darkGreen,
+                                  QSize(100, 80));
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10),
+             QColor(Qt::darkGreen));
+    QCOMPARE(m_events.filter(QStringLiteral("PreImageLoaded")),
+             QStringList { "PreImageLoaded " + chosen });
+    QVERIFY(!QApplication::overrideCursor());
+
+    // A thumbnail functor makes the picture instead.
+    QStringList thumbnailsFor;
+    m_label->SetSpecialThumbnailFunctor([&](const QString &file) {
+        thumbnailsFor << file;
+        return solidPixmap(QSize(20, 20), Qt::magenta);
+    });
+    QTest::mouseDClick(m_label, Qt::LeftButton, Qt::NoModifier, QPoint(50, 40));
+    QCOMPARE(thumbnailsFor, QStringList { chosen });
+    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(20, 20));
+
+    // A path that cannot be read still replaces the picture, with an empty one.
+    m_label->SetSpecialThumbnailFunctor(nullptr);
+    chosen = m_dir.filePath(QStringLiteral("missing.png"));
+    m_label->OnMouseDoubleClicked();
+    QVERIFY(m_label->pixmap(Qt::ReturnByValue).isNull());
+    QCOMPARE(m_events.last(), QStringLiteral("PreImageLoaded ") + chosen);
 }
 
 void tst_QItemLabel::dragEnterFilter_data()
@@ -268,7 +202,7 @@ void tst_QItemLabel::dragEnterFilter()
     QFETCH(QString, filter);
     QFETCH(QStringList, files);
     QFETCH(bool, accepted);
-    m_label->SetFileFilter(filter);
+    QVERIFY(m_label->setProperty("DragFilter", filter));
     const auto mimeData = VelaTest::fileMime(files);
     QCOMPARE(VelaTest::dragEnter(m_label, QPoint(50, 40), mimeData.get()), accepted);
 
@@ -291,7 +225,6 @@ void tst_QItemLabel::dropLoadsImage()
     const auto mimeData = VelaTest::fileMime({ path });
     QVERIFY(VelaTest::dropAt(m_label, QPoint(50, 40), mimeData.get()));
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).size(), QSize(64, 64));
-    QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5), QColor(Qt::darkRed));
     QCOMPARE(m_events, QStringList { "PreImageLoaded " + path });
     QVERIFY(!thumbnailAsked);
     QVERIFY(!QApplication::overrideCursor());
@@ -299,7 +232,6 @@ void tst_QItemLabel::dropLoadsImage()
     // A file that cannot be read keeps the picture.
     const QString broken =
         VelaTest::writeFile(m_dir.path(), QStringLiteral("broken.png"), "not a picture");
-
     const auto brokenMime = VelaTest::fileMime({ broken });
     VelaTest::dropAt(m_label, QPoint(50, 40), brokenMime.get());
     QCOMPARE(m_label->pixmap(Qt::ReturnByValue).toImage().pixelColor(10, 10), QColor(Qt::darkRed));

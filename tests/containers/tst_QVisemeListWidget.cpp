@@ -1,11 +1,8 @@
-#include "QVisemeCurveWidgetLite.h"
 #include "QVisemeListWidget.h"
-#include "VelaDropTest.h"
 #include "VelaTest.h"
 
 #include <QDrag>
 #include <QMimeData>
-#include <QToolButton>
 #include <QtTest>
 
 #include <memory>
@@ -19,10 +16,8 @@ private slots:
     void cleanup();
     void dragStartsAtTheStartDistance_data();
     void dragStartsAtTheStartDistance();
+    void onlyLeftPressesOnAnItemStartDrags();
     void payload();
-    void onlyLeftPressesSetTheStart();
-    void noCurrentItemNoDrag();
-    void payloadDropsOnVisemeCurve();
 
 private:
     // The drags the list has started; each is deleted once the event loop runs again.
@@ -46,9 +41,19 @@ void tst_QVisemeListWidget::cleanup()
     m_list.reset();
 }
 
+// Pointer offsets from a press, with whether a drag starts there: exactly at the start-drag
+// distance, straight or diagonal, and one pixel short of it.
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance_data()
 {
-    VelaDropTest::addStartDistanceRows();
+    const int distance = QApplication::startDragDistance();
+    QTest::addColumn<QPoint>("offset");
+    QTest::addColumn<bool>("starts");
+    QTest::newRow("one pixel short") << QPoint(0, -(distance - 1)) << false;
+    QTest::newRow("one pixel short, diagonal")
+        << QPoint(distance / 2, distance - 1 - distance / 2) << false;
+    QTest::newRow("exactly the distance") << QPoint(distance, 0) << true;
+    QTest::newRow("exactly the distance, diagonal")
+        << QPoint(-(distance / 2), -(distance - distance / 2)) << true;
 }
 
 void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
@@ -62,29 +67,20 @@ void tst_QVisemeListWidget::dragStartsAtTheStartDistance()
     QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + offset);
 }
 
-void tst_QVisemeListWidget::payload()
+void tst_QVisemeListWidget::onlyLeftPressesOnAnItemStartDrags()
 {
-    const QPoint start = itemCenter(2);
-    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    VelaTest::mouseMove(m_list->viewport(), start + QPoint(0, 40));
-    QCOMPARE(drags().size(), 1);
-    const QDrag *drag = drags().first();
-    QCOMPARE(drag->source(), m_list.get());
-    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
-    const QMimeData *data = drag->mimeData();
-    QVERIFY(data->hasFormat(QStringLiteral("application/x-visemelistitem")));
-    QVERIFY(data->data(QStringLiteral("application/x-visemelistitem")).isEmpty());
-    QCOMPARE(data->text(), QStringLiteral("OH"));
-    QCOMPARE(data->formats(), QStringList({ "application/x-visemelistitem", "text/plain" }));
-    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
-}
+    // A press below the last item makes no item current: no drag.
+    m_list->setCurrentItem(nullptr);
+    const QPoint empty(20, m_list->viewport()->height() - 10);
+    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+    VelaTest::mouseMove(m_list->viewport(), empty - QPoint(0, 40));
+    QVERIFY(drags().isEmpty());
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
 
-void tst_QVisemeListWidget::onlyLeftPressesSetTheStart()
-{
+    // A right press far away leaves the start where the left press put it.
     const int distance = QApplication::startDragDistance();
     const QPoint start = itemCenter(0);
     QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    // A right press far away leaves the start where the left press put it.
     const QPoint far = start + QPoint(0, distance);
     QTest::mouseClick(m_list->viewport(), Qt::RightButton, Qt::NoModifier, far);
     VelaTest::mouseMove(m_list->viewport(), far);
@@ -94,39 +90,21 @@ void tst_QVisemeListWidget::onlyLeftPressesSetTheStart()
     QCOMPARE(drags().size(), 1);
 }
 
-void tst_QVisemeListWidget::noCurrentItemNoDrag()
+// The payload the viseme curves take to name a slot (tst_QVisemeCurveWidgetLite).
+void tst_QVisemeListWidget::payload()
 {
-    m_list->setCurrentItem(nullptr);
-    QVERIFY(!m_list->currentItem());
-    // Below the last item: the press makes no item current.
-    const QPoint empty(20, m_list->viewport()->height() - 10);
-    QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
-    QVERIFY(!m_list->currentItem());
-    VelaTest::mouseMove(m_list->viewport(), empty - QPoint(0, 40));
-    QVERIFY(drags().isEmpty());
-    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, empty);
-}
-
-void tst_QVisemeListWidget::payloadDropsOnVisemeCurve()
-{
-    // What the list sends is what the viseme curve widget takes: the name lands on the button.
-    QWidget host;
-    auto *curve = new QVisemeCurveWidgetLite(&host);
-    curve->setGeometry(0, 0, 300, 200);
-    auto *button = new QToolButton(curve);
-    button->setCheckable(true);
-    button->setGeometry(240, 10, 50, 20);
-    curve->Init();
-
-    const QPoint start = itemCenter(1);
+    const QPoint start = itemCenter(2);
     QTest::mousePress(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
-    VelaTest::mouseMove(m_list->viewport(), start + QPoint(30, 0));
+    VelaTest::mouseMove(m_list->viewport(), start + QPoint(0, 40));
     QCOMPARE(drags().size(), 1);
-    QVERIFY(VelaTest::dropAt(curve, button->geometry().center(), drags().first()->mimeData(),
-                             nullptr, Qt::MoveAction));
-    QCOMPARE(button->text(), QStringLiteral("EE"));
-    QCOMPARE(curve->GetVisemeName(0), QStringLiteral("EE"));
-    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start);
+    const QDrag *drag = drags().first();
+    QCOMPARE(drag->source(), m_list.get());
+    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
+    QCOMPARE(drag->mimeData()->formats(),
+             QStringList({ "application/x-visemelistitem", "text/plain" }));
+    QVERIFY(drag->mimeData()->data("application/x-visemelistitem").isEmpty());
+    QCOMPARE(drag->mimeData()->text(), QStringLiteral("OH"));
+    QTest::mouseRelease(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, start + QPoint(0, 40));
 }
 
 VELA_TEST_CLASS(tst_QVisemeListWidget)
