@@ -4,7 +4,6 @@
 #include "VelaTest.h"
 
 #include <QAbstractItemView>
-#include <QHBoxLayout>
 #include <QLabel>
 
 #include <limits>
@@ -88,41 +87,28 @@ void tst_QNumericalWidgetCombobox::cleanup()
 void tst_QNumericalWidgetCombobox::construction()
 {
     QNumericalWidgetCombobox widget;
-    QVERIFY(widget.children().isEmpty());
-    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
     // Pushing into or re-describing an unbuilt widget builds nothing.
     widget.SetValue(Vela::CVector4f(2, 0, 0, 0));
     widget.SetDesc(Lu::CDynamicWidgetVariableBase(), choices({ { 1, "One" } }));
     QVERIFY(widget.children().isEmpty());
-    QCOMPARE(widget.GetName(), QStringLiteral("Quality"));
+    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
 
     // Without choices the drop-down stays empty.
     widget.Initialize(Lu::CDynamicWidgetVariableBase(), choices({}));
     auto *combo = widget.findChild<QComboBoxEx *>();
     QVERIFY(combo);
-    QCOMPARE(combo->count(), 0);
-    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
     widget.UpdateInputValue(Vela::CVector4f(1, 0, 0, 0));
     QCOMPARE(combo->currentIndex(), -1);
+    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
 }
 
 void tst_QNumericalWidgetCombobox::createUi()
 {
+    // Sorted by value, the first one current.
     QCOMPARE(itemTexts(m_combo), (QStringList { "Low", "High" }));
     QCOMPARE(itemValues(m_combo), (QList<int> { 2, 5 }));
-    QCOMPARE(m_combo->currentIndex(), 0);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(2, 0, 0, 0));
-    QVERIFY(!m_combo->IgnoreWheelEvent());
-
-    auto *label = m_widget->findChild<QLabel *>();
-    QVERIFY(label);
-    // The caption is the bare name.
-    QCOMPARE(label->text(), QStringLiteral("Quality"));
-    auto *row = qobject_cast<QHBoxLayout *>(m_widget->layout()->itemAt(0)->layout());
-    QVERIFY(row);
-    QCOMPARE(row->count(), 2);
-    QCOMPARE(row->itemAt(0)->widget(), label);
-    QCOMPARE(row->itemAt(1)->widget(), m_combo);
+    QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Quality"));
 }
 
 void tst_QNumericalWidgetCombobox::pushValue_data()
@@ -143,12 +129,9 @@ void tst_QNumericalWidgetCombobox::pushValue()
     QFETCH(int, index);
     QFETCH(float, reported);
     EditLog log(m_widget);
-    QSignalSpy comboChanged(m_combo, QOverload<int>::of(&QComboBox::currentIndexChanged));
     m_widget->UpdateInputValue(Vela::CVector4f(x, 7, 7, 7));
     QCOMPARE(m_combo->currentIndex(), index);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(reported, 0, 0, 0));
-    QVERIFY(log.names.isEmpty());
-    QCOMPARE(comboChanged.count(), 0);
     QVERIFY(!m_combo->signalsBlocked());
     // SetValue is as quiet.
     m_widget->SetValue(Vela::CVector4f(2, 0, 0, 0));
@@ -206,31 +189,27 @@ void tst_QNumericalWidgetCombobox::chooseWithMouse()
 void tst_QNumericalWidgetCombobox::setDescRefills()
 {
     m_widget->SetValue(Vela::CVector4f(5, 0, 0, 0));
-    m_combo->blockSignals(true);
     EditLog log(m_widget);
+    // A drop-down the host has blocked stays blocked.
+    m_combo->blockSignals(true);
     m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(),
                       choices({ { 0, "Draft" }, { 9, "Final" } }, QStringLiteral("Preset")));
-    // The previous blocking state comes back.
     QVERIFY(m_combo->signalsBlocked());
     m_combo->blockSignals(false);
     m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(),
                       choices({ { 1, "Coarse" }, { 4, "Fine" } }, QStringLiteral("Detail")));
     QVERIFY(!m_combo->signalsBlocked());
 
-    QCOMPARE(itemTexts(m_combo), QString("Coarse,Fine").split(','));
     QCOMPARE(itemValues(m_combo), (QList<int> { 1, 4 }));
-    QCOMPARE(m_combo->currentIndex(), 0);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
     QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Detail"));
-    QCOMPARE(m_widget->findChildren<QComboBoxEx *>().size(), 1);
     QVERIFY(log.names.isEmpty());
 
     // The refilled drop-down still reports the user's choices.
     m_combo->setFocus();
     QTRY_VERIFY(m_combo->hasFocus());
     QTest::keyClick(m_combo, Qt::Key_Down);
-    QCOMPARE(log.names, NumericalTest::oneEdit());
-    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(4, 0, 0, 0));
+    QCOMPARE(log.entries, NumericalTest::oneEdit(4));
 }
 
 void tst_QNumericalWidgetCombobox::setDescWithOtherCount()
@@ -238,18 +217,12 @@ void tst_QNumericalWidgetCombobox::setDescWithOtherCount()
     EditLog log(m_widget);
     m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(),
                       choices({ { 1, "A" }, { 2, "B" }, { 3, "C" } }, QStringLiteral("Mode")));
-    // A second drop-down and caption are built below the first ones, which stay.
+    // A second drop-down is built below the first one, which stays as it was.
     const QList<QComboBoxEx *> combos = m_widget->findChildren<QComboBoxEx *>();
     QCOMPARE(combos.size(), 2);
     QCOMPARE(itemTexts(m_combo), QString("Low,High").split(','));
     QComboBoxEx *second = combos.at(0) == m_combo ? combos.at(1) : combos.at(0);
     QCOMPARE(itemTexts(second), QString("A,B,C").split(','));
-    QCOMPARE(m_widget->layout()->count(), 2);
-    QCOMPARE(m_widget->layout()->itemAt(1)->layout()->itemAt(1)->widget(), second);
-    auto *label =
-        qobject_cast<QLabel *>(m_widget->layout()->itemAt(1)->layout()->itemAt(0)->widget());
-    QVERIFY(label);
-    QCOMPARE(label->text(), QStringLiteral("Mode"));
     // The widget now reads and follows the newer drop-down.
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
     m_widget->UpdateInputValue(Vela::CVector4f(3, 0, 0, 0));
