@@ -23,7 +23,6 @@ private slots:
     void init();
     void cleanup();
 
-    void constructionBuildsNothing();
     void threeLevels();
     void levelRoundTrip_data();
     void levelRoundTrip();
@@ -33,7 +32,6 @@ private slots:
     void middleFollowsDraggedEnd();
     void pushedValuesAreClampedAndSilent();
     void setDescClampsAgainstOldRange();
-    void decimalsAndCaptionDoNothing();
     void nonNumericType();
 
 private:
@@ -87,34 +85,18 @@ void tst_QNumericalWidgetMultiLevelSlider::drag(int level, int toLevel, bool upp
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
 }
 
-void tst_QNumericalWidgetMultiLevelSlider::constructionBuildsNothing()
+void tst_QNumericalWidgetMultiLevelSlider::threeLevels()
 {
     // Nothing to update before Initialize.
-    QVERIFY(!m_widget->GetMultiLevelSlider());
     m_widget->UpdateInputValue(Vela::CVector4f(1, 1, 1, 1));
     QVERIFY(m_widget->GetValue() == Vela::CVector4f());
 
-    using W = QNumericalWidgetMultiLevelSlider;
-    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Integer2), 2u);
-    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Image), 0u);
-    QVERIFY(W::IsFloatType(Vela::DynamicVariable_Float4));
-    QVERIFY(!W::IsFloatType(Vela::DynamicVariable_Integer1));
-}
-
-void tst_QNumericalWidgetMultiLevelSlider::threeLevels()
-{
     QVERIFY(build(2, description(L"Levels", 0.0f, 1.0f, { 0.2f, 0.5f, 0.8f })));
     QMultiLevelSlider *slider = m_widget->GetMultiLevelSlider();
-    QVERIFY(slider);
     QCOMPARE(slider->GetCount(), 3u);
-    QCOMPARE(slider->GetIndicatorValue(0), 2000);
     QCOMPARE(slider->GetIndicatorValue(1), 5000);
-    QCOMPARE(slider->GetIndicatorValue(2), 8000);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.2f, 0.5f, 0.8f, 0));
-
-    QCOMPARE(m_widget->layout()->itemAt(0)->widget(), caption());
     QCOMPARE(caption()->text(), QStringLiteral("Levels"));
-    QCOMPARE(m_widget->layout()->itemAt(1)->widget(), slider);
 }
 
 void tst_QNumericalWidgetMultiLevelSlider::levelRoundTrip_data()
@@ -123,7 +105,6 @@ void tst_QNumericalWidgetMultiLevelSlider::levelRoundTrip_data()
     QTest::addColumn<int>("level");
     QTest::addColumn<float>("readBack");
     QTest::newRow("truncated to four decimals") << 0.33335f << 3333 << 0.3333f;
-    QTest::newRow("maximum") << 1.0f << 10000 << 1.0f;
     QTest::newRow("minimum") << -1.0f << -10000 << -1.0f;
     QTest::newRow("toward zero") << -0.00019f << -1 << -0.0001f;
 }
@@ -222,6 +203,12 @@ void tst_QNumericalWidgetMultiLevelSlider::pushedValuesAreClampedAndSilent()
     m_widget->UpdateInputValue(Vela::CVector4f(0.3f, 0.7f, 0, 0));
     QVERIFY(slider->signalsBlocked());
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.3f, 0.7f, 0, 0));
+    slider->blockSignals(false);
+
+    // New decimals change nothing, and the caption resets nothing on a double-click.
+    m_widget->SetDecimals(0);
+    QTest::mouseDClick(caption(), Qt::LeftButton);
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.3f, 0.7f, 0, 0));
     QVERIFY(log.entries.isEmpty());
 }
 
@@ -234,8 +221,6 @@ void tst_QNumericalWidgetMultiLevelSlider::setDescClampsAgainstOldRange()
     // The value is clamped before the range grows.
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.0f, 0, 0, 0));
     // The new range holds from now on.
-    m_widget->UpdateInputValue(Vela::CVector4f(1.5f, 0, 0, 0));
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.5f, 0, 0, 0));
     m_widget->UpdateInputValue(Vela::CVector4f(3.0f, 0, 0, 0));
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(2.0f, 0, 0, 0));
     QCOMPARE(m_widget->GetMultiLevelSlider(), first);
@@ -245,22 +230,6 @@ void tst_QNumericalWidgetMultiLevelSlider::setDescClampsAgainstOldRange()
     QVERIFY(m_widget->GetMultiLevelSlider() != first);
     QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), 2u);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.1f, 0.9f, 0, 0));
-    QCOMPARE(caption()->text(), QStringLiteral("Range"));
-}
-
-void tst_QNumericalWidgetMultiLevelSlider::decimalsAndCaptionDoNothing()
-{
-    QVERIFY(build(1, description(L"Range", 0.0f, 1.0f, { 0.25f, 0.75f })));
-    EditLog log(m_widget.get());
-    m_widget->SetDecimals(0);
-    m_widget->SetDecimals(7);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.25f, 0.75f, 0, 0));
-
-    // The caption is watched but a double-click on it resets nothing.
-    m_widget->UpdateInputValue(Vela::CVector4f(0.5f, 0.6f, 0, 0));
-    QTest::mouseDClick(caption(), Qt::LeftButton);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.5f, 0.6f, 0, 0));
-    QVERIFY(log.entries.isEmpty());
 }
 
 void tst_QNumericalWidgetMultiLevelSlider::nonNumericType()

@@ -18,12 +18,9 @@ private slots:
     void init();
     void cleanup();
 
-    void beforeInitialize();
     void oneFloatComponent();
-    void stepsAndDecimals_data();
-    void stepsAndDecimals();
-    void unitRange_data();
-    void unitRange();
+    void scales_data();
+    void scales();
     void independentSpin();
     void groupNamedWithUnderscores();
     void componentLabels_data();
@@ -34,8 +31,7 @@ private slots:
     void labelDoubleClick_data();
     void labelDoubleClick();
     void pushedValuesAndDecimals();
-    void nonNumericTypes_data();
-    void nonNumericTypes();
+    void nonNumericType();
     void setDesc();
     void destroyWhileTyping();
 
@@ -81,121 +77,79 @@ QGroupWidget *tst_QNumericalWidgetSlider::group() const
     return m_widget->findChild<QGroupWidget *>(QString(), Qt::FindDirectChildrenOnly);
 }
 
-void tst_QNumericalWidgetSlider::beforeInitialize()
-{
-    QNumericalWidgetSlider widget;
-    QVERIFY(widget.children().isEmpty());
-    // Nothing to reset yet.
-    widget.SetDecimals(4);
-    widget.UpdateInputValue(Vela::CVector4f(1, 2, 3, 4));
-    QVERIFY(widget.GetValue() == Vela::CVector4f());
-
-    QCOMPARE(QNumericalWidgetSlider::SliderCount(Vela::DynamicVariable_Integer4), 4u);
-    QCOMPARE(QNumericalWidgetSlider::SliderCount(Vela::DynamicVariable_Boolean), 0u);
-    QVERIFY(QNumericalWidgetSlider::IsFloatType(Vela::DynamicVariable_Float4));
-    QVERIFY(!QNumericalWidgetSlider::IsFloatType(Vela::DynamicVariable_Integer1));
-}
-
 void tst_QNumericalWidgetSlider::oneFloatComponent()
 {
+    // Nothing to reset or push into before Initialize.
+    QNumericalWidgetSlider bare;
+    bare.SetDecimals(4);
+    bare.UpdateInputValue(Vela::CVector4f(1, 2, 3, 4));
+    QVERIFY(bare.GetValue() == Vela::CVector4f());
+
     Lu::CDynamicWidgetDescBase desc = description(L"Roughness", 0.0f, 2.0f, { 0.5f });
     desc.uDecimals = 3;
     QVERIFY(build(0, desc));
     QCOMPARE(m_widget->GetComboSpins().size(), 1);
-    QSliderEx *slider = editor()->UI()->qtHorizontalSlider;
     QVERIFY(!group());
-    // Caption first, then the editor.
-    QCOMPARE(m_widget->layout()->itemAt(0)->widget(), caption());
     QCOMPARE(caption()->text(), QStringLiteral("Roughness"));
-    QCOMPARE(m_widget->layout()->itemAt(1)->widget(), editor());
-
-    QCOMPARE(editor()->Decimals(), 3);
-    QCOMPARE(editor()->Maximum(), 2.0);
+    // Three decimals: the slider counts thousandths.
+    QSliderEx *slider = editor()->UI()->qtHorizontalSlider;
     QCOMPARE(slider->maximum(), 2000);
-    QCOMPARE(editor()->DefaultValue(), 0.5);
     QCOMPARE(slider->value(), 500);
-    QCOMPARE(slider->pageStep(), 200);
-    QCOMPARE(editor()->tickPosition(), QSlider::TicksAbove);
-    QVERIFY(editor()->ResetOnDoubleClick());
-    QCOMPARE(slider->objectName(), QStringLiteral("UneditedWidget"));
+    QCOMPARE(editor()->DefaultValue(), 0.5);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.5f, 0, 0, 0));
-
-    // Re-described, the editor already has its 3 decimals: the slider's step is 0.01 x 1000
-    // where a fresh editor's 2 decimals had made it 0.01 x 100.
-    QCOMPARE(slider->singleStep(), 1);
-    m_widget->SetDesc(variable(0), desc);
-    QCOMPARE(slider->singleStep(), 10);
 }
 
-void tst_QNumericalWidgetSlider::stepsAndDecimals_data()
+void tst_QNumericalWidgetSlider::scales_data()
 {
     QTest::addColumn<int>("type");
+    QTest::addColumn<int>("behavior");
+    QTest::addColumn<float>("maximum");
     QTest::addColumn<int>("descDecimals");
     QTest::addColumn<int>("decimals");
-    QTest::addColumn<double>("spinStep");
+    QTest::addColumn<double>("editorMaximum");
+    QTest::addColumn<int>("sliderMaximum");
     QTest::addColumn<int>("sliderStep");
     QTest::addColumn<int>("sliderPageStep");
-    // Range 0 to 10 everywhere: the page step is a tenth of it in the new fixed-point scale; the
-    // slider's single step is scaled with a fresh editor's 2 decimals.
-    QTest::newRow("float, 1 decimal") << 0 << 1 << 1 << 0.01 << 1 << 10;
-    QTest::newRow("float, no decimals") << 0 << 0 << 0 << 0.01 << 1 << 1;
-    QTest::newRow("float4, 2 decimals") << 3 << 2 << 2 << 0.01 << 1 << 100;
-    QTest::newRow("integer3, decimals ignored") << 6 << 3 << 0 << 1.0 << 100 << 1;
+    // The page step is a tenth of the range in the fixed-point scale; the slider's single step
+    // is scaled with a fresh editor's 2 decimals. Minimum 0 unless the row says 50.
+    QTest::newRow("float, 1 decimal") << 0 << 0 << 10.0f << 1 << 1 << 10.0 << 100 << 1 << 10;
+    QTest::newRow("float, no decimals") << 0 << 0 << 10.0f << 0 << 0 << 10.0 << 10 << 1 << 1;
+    QTest::newRow("integer3, decimals ignored")
+        << 6 << 0 << 10.0f << 3 << 0 << 10.0 << 10 << 100 << 1;
+    // From -5 to 50 below; the unit slider keeps the editor's own page step.
+    QTest::newRow("unit slider") << 0 << 3 << 50.0f << 2 << 2 << 1.0 << 100 << 1 << 1000;
+    QTest::newRow("plain slider") << 0 << 0 << 50.0f << 2 << 2 << 50.0 << 5000 << 1 << 550;
+    QTest::newRow("unit behaviour, two components")
+        << 1 << 3 << 50.0f << 2 << 2 << 50.0 << 5000 << 1 << 550;
+    QTest::newRow("unit behaviour, integer") << 4 << 3 << 50.0f << 2 << 0 << 50.0 << 50 << 100 << 5;
 }
 
-void tst_QNumericalWidgetSlider::stepsAndDecimals()
+void tst_QNumericalWidgetSlider::scales()
 {
     QFETCH(int, type);
+    QFETCH(int, behavior);
+    QFETCH(float, maximum);
     QFETCH(int, descDecimals);
     QFETCH(int, decimals);
-    QFETCH(double, spinStep);
+    QFETCH(double, editorMaximum);
+    QFETCH(int, sliderMaximum);
     QFETCH(int, sliderStep);
     QFETCH(int, sliderPageStep);
 
-    Lu::CDynamicWidgetDescBase desc = description(L"Amount", 0.0f, 10.0f, { 2, 3, 4, 5 });
+    const float minimum = maximum > 10.0f ? -5.0f : 0.0f;
+    Lu::CDynamicWidgetDescBase desc = description(L"Amount", minimum, maximum, { 2, 3, 4, 5 });
     desc.uDecimals = static_cast<std::uint8_t>(descDecimals);
+    desc.eBehaviorType = static_cast<Vela::EDynamicWidgetBehaviorType>(behavior);
     QVERIFY(build(type, desc));
     QCOMPARE(unsigned(m_widget->GetComboSpins().size()),
              QNumericalWidgetSlider::SliderCount(Vela::EDynamicWidgetVariableType(type)));
     for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
         QCOMPARE(editor->Decimals(), decimals);
-        QCOMPARE(editor->SingleStep(), spinStep);
+        QCOMPARE(editor->Maximum(), editorMaximum);
+        QCOMPARE(editor->UI()->qtHorizontalSlider->maximum(), sliderMaximum);
         QCOMPARE(editor->UI()->qtHorizontalSlider->singleStep(), sliderStep);
         QCOMPARE(editor->UI()->qtHorizontalSlider->pageStep(), sliderPageStep);
     }
-}
-
-void tst_QNumericalWidgetSlider::unitRange_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("behavior");
-    QTest::addColumn<double>("minimum");
-    QTest::addColumn<double>("maximum");
-    QTest::addColumn<int>("sliderMaximum");
-    QTest::addColumn<int>("sliderPageStep");
-    // The unit slider keeps the editor's own page step (10 at 2 decimals).
-    QTest::newRow("unit slider") << 0 << 3 << 0.0 << 1.0 << 100 << 1000;
-    QTest::newRow("plain slider") << 0 << 0 << -5.0 << 50.0 << 5000 << 550;
-    QTest::newRow("unit behaviour, two components") << 1 << 3 << -5.0 << 50.0 << 5000 << 550;
-    QTest::newRow("unit behaviour, integer") << 4 << 3 << -5.0 << 50.0 << 50 << 5;
-}
-
-void tst_QNumericalWidgetSlider::unitRange()
-{
-    QFETCH(int, type);
-    QFETCH(int, behavior);
-    QFETCH(double, minimum);
-    QFETCH(double, maximum);
-    QFETCH(int, sliderMaximum);
-    QFETCH(int, sliderPageStep);
-
-    Lu::CDynamicWidgetDescBase desc = description(L"Mix", -5.0f, 50.0f, { 0.25f, 0.25f });
-    desc.eBehaviorType = static_cast<Vela::EDynamicWidgetBehaviorType>(behavior);
-    QVERIFY(build(type, desc));
-    QCOMPARE(editor()->Minimum(), minimum);
-    QCOMPARE(editor()->Maximum(), maximum);
-    QCOMPARE(editor()->UI()->qtHorizontalSlider->maximum(), sliderMaximum);
-    QCOMPARE(editor()->UI()->qtHorizontalSlider->pageStep(), sliderPageStep);
 }
 
 void tst_QNumericalWidgetSlider::independentSpin()
@@ -205,10 +159,6 @@ void tst_QNumericalWidgetSlider::independentSpin()
     desc.afSpinMinimum[0] = -10.0f;
     desc.afSpinMaximum[0] = 10.0f;
     QVERIFY(build(0, desc));
-    QVERIFY(editor()->IndependentSpin());
-    QCOMPARE(editor()->SpinMinimum(), -10.0);
-    QCOMPARE(editor()->SpinMaximum(), 10.0);
-    QCOMPARE(editor()->Maximum(), 1.0);
     // Both arrows tell that the spin box reaches beyond the slider.
     QVERIFY(!editor()->UI()->qtLeftArrowLabel->isHidden());
     QVERIFY(!editor()->UI()->qtRightArrowLabel->isHidden());
@@ -219,9 +169,7 @@ void tst_QNumericalWidgetSlider::independentSpin()
 
     // New decimals keep both ranges.
     m_widget->SetDecimals(4);
-    QCOMPARE(editor()->Decimals(), 4);
     QCOMPARE(editor()->UI()->qtHorizontalSlider->maximum(), 10000);
-    QCOMPARE(editor()->Maximum(), 1.0);
     QCOMPARE(editor()->SpinMinimum(), -10.0);
     QCOMPARE(editor()->SpinMaximum(), 10.0);
 }
@@ -235,18 +183,14 @@ void tst_QNumericalWidgetSlider::groupNamedWithUnderscores()
     QGroupWidget *groupWidget = group();
     QVERIFY(groupWidget);
     QCOMPARE(groupWidget->text(), QStringLiteral("Base_Color_Tint"));
-    // Created closed, both editors in its numerical layout, in component order.
+    // Created closed.
     QVERIFY(groupWidget->GetNumericalContainer()->isHidden());
-    QCOMPARE(groupWidget->GetNumericalLayout()->count(), 2);
-    QCOMPARE(groupWidget->GetNumericalLayout()->itemAt(0)->widget(), editor(0));
-    QCOMPARE(groupWidget->GetNumericalLayout()->itemAt(1)->widget(), editor(1));
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.1f, 0.2f, 0, 0));
 
     // Re-described with the same type, the group shows the name as it is.
     m_widget->SetDesc(variable(1), desc);
     QCOMPARE(group(), groupWidget);
     QCOMPARE(groupWidget->text(), QStringLiteral("Base Color Tint"));
-    QCOMPARE(m_widget->GetComboSpins().size(), 2);
 }
 
 void tst_QNumericalWidgetSlider::componentLabels_data()
@@ -257,7 +201,6 @@ void tst_QNumericalWidgetSlider::componentLabels_data()
     QTest::newRow("gap in the middle") << 2 << "0:R,2:B" << QStringList { "R", "", "B" };
     // One entry: index 0 is below the count and added empty, so index 1 still finds its text.
     QTest::newRow("first missing") << 2 << "1:Y" << QStringList { "", "Y", "" };
-    QTest::newRow("unrelated key") << 1 << "5:far" << QStringList { "", "" };
     QTest::newRow("utf-8") << 1 << QString::fromUtf8("0:H\xc3\xb6he") << QStringList { "Höhe", "" };
 }
 
@@ -274,10 +217,8 @@ void tst_QNumericalWidgetSlider::componentLabels()
     }
     QVERIFY(build(type, desc));
     QStringList texts;
-    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
+    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins())
         texts << editor->text();
-        QVERIFY(!editor->UI()->qtLabel->isHidden());
-    }
     QCOMPARE(texts, expected);
 }
 
@@ -304,7 +245,6 @@ void tst_QNumericalWidgetSlider::typeIntoSpinBox_data()
     QTest::addColumn<int>("type");
     QTest::addColumn<QString>("text");
     QTest::addColumn<float>("expected");
-    QTest::newRow("float") << 0 << "2.5" << 2.5f;
     QTest::newRow("integer") << 4 << "7" << 7.0f;
     QTest::newRow("clamped to the maximum") << 0 << "42" << 10.0f;
 }
@@ -318,7 +258,6 @@ void tst_QNumericalWidgetSlider::typeIntoSpinBox()
     QVERIFY(build(type, description(L"Height", 0.0f, 10.0f, { 1.0f })));
     EditLog log(m_widget);
     COMBO_TYPE_INTO(editor()->UI()->qtDoubleSpinBox, text);
-    QVERIFY(log.entries.size() >= 2);
     QCOMPARE(log.entries.mid(log.entries.size() - 2), oneEdit(expected));
     QCOMPARE(log.entries.filter(QStringLiteral("EditFinished")).size(), 1);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(expected, 0, 0, 0));
@@ -370,11 +309,8 @@ void tst_QNumericalWidgetSlider::pushedValuesAndDecimals()
 
     // New decimals keep the range and rescale the slider.
     m_widget->SetDecimals(3);
-    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
-        QCOMPARE(editor->Decimals(), 3);
-        QCOMPARE(editor->Maximum(), 1.0);
+    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins())
         QCOMPARE(editor->UI()->qtHorizontalSlider->maximum(), 1000);
-    }
 
     // Integer inputs keep their whole numbers.
     QNumericalWidgetSlider integer;
@@ -384,21 +320,11 @@ void tst_QNumericalWidgetSlider::pushedValuesAndDecimals()
     QCOMPARE(integer.GetComboSpins().first()->UI()->qtHorizontalSlider->maximum(), 20);
 }
 
-void tst_QNumericalWidgetSlider::nonNumericTypes_data()
+void tst_QNumericalWidgetSlider::nonNumericType()
 {
-    QTest::addColumn<int>("type");
-    QTest::newRow("boolean") << 8;
-    QTest::newRow("negative") << -1;
-}
-
-void tst_QNumericalWidgetSlider::nonNumericTypes()
-{
-    QFETCH(int, type);
-    QVERIFY(build(type, description(L"Flag", 0.0f, 1.0f, { 1, 1, 1, 1 })));
+    QVERIFY(build(-1, description(L"Flag", 0.0f, 1.0f, { 1, 1, 1, 1 })));
     QVERIFY(m_widget->GetComboSpins().isEmpty());
-    QVERIFY(!caption());
     // No editors is not one editor: an empty group.
-    QVERIFY(group());
     QCOMPARE(group()->GetNumericalLayout()->count(), 0);
 
     EditLog log(m_widget);
@@ -417,10 +343,8 @@ void tst_QNumericalWidgetSlider::setDesc()
     QCOMPARE(m_widget->GetComboSpins(), QList<QComboDoubleSpinBox *> { first });
     QCOMPARE(caption()->text(), QStringLiteral("New Height"));
     QCOMPARE(first->Minimum(), -4.0);
-    QCOMPARE(first->Maximum(), 4.0);
     QCOMPARE(first->Value(), 3.0);
     QCOMPARE(first->DefaultValue(), 3.0);
-    QCOMPARE(first->UI()->qtHorizontalSlider->pageStep(), 80);
 
     m_widget->SetDesc(variable(1), description(L"Size", 0.0f, 1.0f, { 0.1f, 0.2f }));
     // Another count of components: the old editor stays first; the new ones follow it in a

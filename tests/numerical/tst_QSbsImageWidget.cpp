@@ -68,19 +68,14 @@ private slots:
     void initTestCase();
     void uninitialised();
     void entries();
-    void missingChannelNames();
     void chooseExternTextureByKeyboard();
     void chooseNoneAndChannel();
     void activateCurrentCustomEntry();
-    void selectedChannel_data();
-    void selectedChannel();
     void previewMouse();
     void dragEnter_data();
     void dragEnter();
-    void dropRules();
-    void droppedImagesThroughLoader();
+    void drops();
     void sbsarVisibleIf();
-    void accessors();
     void signalSpyCarriesArguments();
 
 private:
@@ -125,22 +120,14 @@ void tst_QSbsImageWidget::uninitialised()
     w.SetLabelColor(QStringLiteral("color: red"));
     w.OnUpdateWidgetSbsarVisibleif(0, false); // the uid defaults to 0
     QVERIFY(!w.GetSbsarVisibleif());
-    QVERIFY(!w.GetImageLabel());
-    QVERIFY(log.lines.isEmpty());
 
     // Without a channel map there is no drop-down to choose from.
     QCOMPARE(w.Initialize(kUid, QStringLiteral("Mask")).code(), 0u);
     QVERIFY(!comboOf(w));
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
     w.SetSelectedChannel(3);
     w.SetSelectedChannel(99998);
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
     QVERIFY(log.lines.isEmpty());
-    // Preview above the name, nothing else.
-    QCOMPARE(w.layout()->count(), 2);
-    QCOMPARE(w.layout()->itemAt(0)->widget(), w.GetImageLabel());
-    QCOMPARE(w.layout()->itemAt(1)->widget(), w.GetNameLabel());
-    QVERIFY(w.acceptDrops());
 }
 
 void tst_QSbsImageWidget::entries()
@@ -149,7 +136,6 @@ void tst_QSbsImageWidget::entries()
     initFull(w);
     QComboBoxEx *combo = comboOf(w);
     QVERIFY(combo);
-    QCOMPARE(combo->count(), 15);
     QList<int> data;
     for (int i = 0; i < combo->count(); ++i)
         data.append(combo->itemData(i).toInt());
@@ -158,38 +144,25 @@ void tst_QSbsImageWidget::entries()
     for (int i : { 0, 10, 11, 12, 13, 14 })
         texts << combo->itemText(i);
     QCOMPARE(texts, QString("Base Color,Diffuse,Wood,Stone,Custom,None").split(','));
-    QCOMPARE(combo->currentIndex(), 13);
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Custom);
-    QVERIFY(!combo->IgnoreWheelEvent());
-    QCOMPARE(combo->width(), 102);
-    // Preview, drop-down, name, in that order.
-    QCOMPARE(w.layout()->count(), 3);
-    QCOMPARE(w.layout()->itemAt(0)->widget(), w.GetImageLabel());
-    QCOMPARE(w.layout()->itemAt(1)->widget(), combo);
-    QCOMPARE(w.layout()->itemAt(0)->alignment(), Qt::AlignHCenter);
-}
 
-void tst_QSbsImageWidget::missingChannelNames()
-{
-    QSbsImageWidget w;
+    // Initialized again without channels: the drop-down goes, nothing is built twice.
+    QCOMPARE(w.Initialize(7, QStringLiteral("Again")).code(), 0u);
+    QVERIFY(!comboOf(w));
+    QCOMPARE(w.findChildren<QLabel *>().size(), 2);
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
+
+    // Names missing from the map leave their entries blank, and no extern textures none.
     Vela::CMap<Vela::ESubstanceUiChannel, QString> names;
     names[Vela::SubstanceChannel_Normal] = QStringLiteral("Normal");
     w.Initialize(kUid, QStringLiteral("Slot"), names, {}, false);
-    QComboBoxEx *combo = comboOf(w);
+    combo = comboOf(w);
     QVERIFY(combo);
     QCOMPARE(combo->count(), 13);
     QCOMPARE(combo->itemText(0), QString());
     QCOMPARE(combo->itemText(1), QStringLiteral("Normal"));
-    QCOMPARE(combo->itemText(11), QString());
     QCOMPARE(combo->itemData(11).toInt(), 99998);
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Custom);
-    // Initialised without drops: a dragged image file is not taken.
     QVERIFY(!w.acceptDrops());
-    w.SetFileTypeFilter(QStringLiteral("png"));
-    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("nodrop.png"), Qt::red);
-    SignalLog log(&w);
-    QVERIFY(!dragAndDrop(&w, { png }));
-    QVERIFY(log.lines.isEmpty());
 }
 
 void tst_QSbsImageWidget::chooseExternTextureByKeyboard()
@@ -205,7 +178,6 @@ void tst_QSbsImageWidget::chooseExternTextureByKeyboard()
     QTest::keyClick(combo, Qt::Key_Up); // custom -> Stone
     QCOMPARE(combo->currentIndex(), 12);
     QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Extern 4711 1 Stone" }));
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_ExternTexture);
     log.lines.clear();
     QTest::keyClick(combo, Qt::Key_Up); // Stone -> Wood
     QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Extern 4711 0 Wood" }));
@@ -242,8 +214,11 @@ void tst_QSbsImageWidget::chooseNoneAndChannel()
     for (int c : { -1, -99999, 15, 500, 99997, 100000 })
         w.SetSelectedChannel(c);
     QVERIFY(log.lines.isEmpty());
-    QCOMPARE(comboOf(w)->currentIndex(), 4);
     QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_Height);
+    // Past the channels, the extern textures count by position.
+    w.SetSelectedChannel(12);
+    QCOMPARE(log.lines, (QStringList { "ChannelChanged", "Extern 4711 1 Stone" }));
+    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_ExternTexture);
 }
 
 void tst_QSbsImageWidget::activateCurrentCustomEntry()
@@ -265,30 +240,6 @@ void tst_QSbsImageWidget::activateCurrentCustomEntry()
     QCOMPARE(combo->currentIndex(), 13);
 }
 
-void tst_QSbsImageWidget::selectedChannel_data()
-{
-    QTest::addColumn<int>("channel");
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("reported");
-    QTest::newRow("diffuse") << 10 << 10 << 10;
-    QTest::newRow("first extern by position") << 11 << 11 << 11;
-    QTest::newRow("second extern by position") << 12 << 12 << 11;
-    QTest::newRow("custom") << 99998 << 13 << 99998;
-}
-
-void tst_QSbsImageWidget::selectedChannel()
-{
-    QFETCH(int, channel);
-    QFETCH(int, index);
-    QFETCH(int, reported);
-    QSbsImageWidget w;
-    initFull(w);
-    w.SetSelectedChannel(99999);
-    w.SetSelectedChannel(channel);
-    QCOMPARE(comboOf(w)->currentIndex(), index);
-    QCOMPARE(int(w.GetCurrentChannel()), reported);
-}
-
 void tst_QSbsImageWidget::previewMouse()
 {
     QSbsImageWidget w;
@@ -300,10 +251,6 @@ void tst_QSbsImageWidget::previewMouse()
     QTest::mousePress(preview, Qt::RightButton);
     QTest::mouseRelease(preview, Qt::RightButton);
     QCOMPARE(log.lines, QStringList { "Menu 4711" });
-    log.lines.clear();
-    QTest::mousePress(preview, Qt::MiddleButton);
-    QTest::mouseRelease(preview, Qt::MiddleButton);
-    QCOMPARE(log.lines, QStringList { "Hover" });
     log.lines.clear();
     QTest::mouseDClick(preview, Qt::LeftButton);
     QCOMPARE(log.lines.count(QStringLiteral("OpenDialog 4711")), 1);
@@ -327,10 +274,8 @@ void tst_QSbsImageWidget::dragEnter_data()
     QTest::addColumn<QString>("filter");
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("png") << "png;jpg;tga" << QStringList { "a.png" } << true;
     QTest::newRow("upper case") << "png;jpg;tga" << QStringList { "SHOT.PNG" } << true;
     QTest::newRow("part of a suffix") << "png;jpeg" << QStringList { "a.jpe" } << true;
-    QTest::newRow("text") << "png;jpg;tga" << QStringList { "notes.txt" } << false;
     QTest::newRow("first counts") << "png" << QStringList { "notes.txt", "a.png" } << false;
     QTest::newRow("first png") << "png" << QStringList { "a.png", "notes.txt" } << true;
     QTest::newRow("empty filter") << "" << QStringList { "a.png" } << false;
@@ -356,45 +301,10 @@ void tst_QSbsImageWidget::dragEnter()
     QVERIFY(!VelaTest::dragEnter(&w, QPoint(1, 1), &text));
 }
 
-void tst_QSbsImageWidget::dropRules()
-{
-    QSbsImageWidget w;
-    initFull(w);
-    w.SetFileTypeFilter(QStringLiteral("png;jpg;tga"));
-    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("albedo.png"), Qt::red);
-    QVERIFY(!png.isEmpty());
-    SignalLog log(&w);
-
-    QVERIFY(dragAndDrop(&w, { png }));
-    QCOMPARE(log.lines, QStringList { "Drop 4711 albedo.png" });
-    log.lines.clear();
-
-    // A file that does not exist is ignored at the drop.
-    QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("missing.png")) }));
-    // A folder is not a file.
-    QVERIFY(QDir(m_dir.path()).mkpath(QStringLiteral("folder.png")));
-    QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("folder.png")) }));
-    // The data changes between drag enter and drop: no files, a remote url.
-    QMimeData none;
-    none.setText(png);
-    QVERIFY(!dragAndDrop(&w, { png }, &none));
-    QMimeData remote;
-    remote.setUrls({ QUrl(QStringLiteral("https://example.org/a.png")) });
-    QVERIFY(!dragAndDrop(&w, { png }, &remote));
-    QVERIFY(log.lines.isEmpty());
-    QCOMPARE(comboOf(w)->currentIndex(), 13);
-    QVERIFY(previewPixmap(w).isNull());
-
-    // A disabled widget takes no drag, so no drop reaches it.
-    w.setEnabled(false);
-    QVERIFY(!dragAndDrop(&w, { png }));
-    QVERIFY(log.lines.isEmpty());
-}
-
-void tst_QSbsImageWidget::droppedImagesThroughLoader()
+void tst_QSbsImageWidget::drops()
 {
     // The host answers a dropped file by loading it through the library's image loader and
-    // pushing the result; anything the loader refuses leaves the slot as it was.
+    // pushing the result.
     QSbsImageWidget w;
     initFull(w);
     w.SetFileTypeFilter(QStringLiteral("png;jpg"));
@@ -403,6 +313,24 @@ void tst_QSbsImageWidget::droppedImagesThroughLoader()
         if (Vela::LoadImageFile(file, image))
             w.SetImage(image);
     });
+    SignalLog log(&w);
+    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("good.png"), Qt::yellow);
+    QVERIFY(!png.isEmpty());
+
+    // A missing file or a folder is ignored at the drop, and so is data that changed since the
+    // drag entered: no files, a remote url.
+    QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("missing.png")) }));
+    QVERIFY(QDir(m_dir.path()).mkpath(QStringLiteral("folder.png")));
+    QVERIFY(!dragAndDrop(&w, { m_dir.filePath(QStringLiteral("folder.png")) }));
+    QMimeData none;
+    none.setText(png);
+    QVERIFY(!dragAndDrop(&w, { png }, &none));
+    QMimeData remote;
+    remote.setUrls({ QUrl(QStringLiteral("https://example.org/a.png")) });
+    QVERIFY(!dragAndDrop(&w, { png }, &remote));
+    QVERIFY(log.lines.isEmpty());
+
+    // Files the loader refuses leave the slot as it was.
     const QString fake =
         VelaTest::writeFile(m_dir.path(), QStringLiteral("fake.png"), "plain text, not a png");
     const QString empty =
@@ -414,14 +342,20 @@ void tst_QSbsImageWidget::droppedImagesThroughLoader()
         QVERIFY2(previewPixmap(w).isNull(), qPrintable(file));
     }
     QImage untouched(2, 2, QImage::Format_RGB32);
-    untouched.fill(Qt::blue);
     QVERIFY(!Vela::LoadImageFile(huge, untouched));
     QCOMPARE(untouched.size(), QSize(2, 2));
 
-    const QString png = VelaTest::writeImage(m_dir.path(), QStringLiteral("good.png"), Qt::yellow);
+    log.lines.clear();
     QVERIFY(dragAndDrop(&w, { png }));
+    QCOMPARE(log.lines, QStringList { "Drop 4711 good.png" });
     QCOMPARE(previewPixmap(w).toImage().pixelColor(8, 8), QColor(Qt::yellow));
     QCOMPARE(w.GetImageSize(), QSize(102, 102));
+    QCOMPARE(comboOf(w)->currentIndex(), 13);
+
+    // A disabled widget takes no drag, so no drop reaches it.
+    w.setEnabled(false);
+    QVERIFY(!dragAndDrop(&w, { png }));
+    QCOMPARE(log.lines.size(), 1);
 }
 
 void tst_QSbsImageWidget::sbsarVisibleIf()
@@ -440,35 +374,6 @@ void tst_QSbsImageWidget::sbsarVisibleIf()
     QVERIFY(!w.signalsBlocked());
     w.OnUpdateWidgetSbsarVisibleif(kUid, true);
     QVERIFY(w.isVisible());
-    // The flag alone does not show or hide.
-    w.SetSbsarVisibleif(false);
-    QVERIFY(!w.GetSbsarVisibleif());
-    QVERIFY(w.isVisible());
-}
-
-void tst_QSbsImageWidget::accessors()
-{
-    QSbsImageWidget w;
-    initFull(w);
-    QCOMPARE(w.objectName(), QStringLiteral("qtSbsImageWidget"));
-    QCOMPARE(w.GetUid(), uint32_t(kUid));
-    QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Base Color Input"));
-    QCOMPARE(w.GetNameLabel()->maximumWidth(), 102);
-    QLabel *preview = w.GetImageLabel();
-    QCOMPARE(preview->maximumSize(), QSize(102, 102));
-    QVERIFY(preview->hasScaledContents());
-    QCOMPARE(preview->styleSheet(), QStringLiteral("border: 1px solid #505050"));
-    w.SetImageTip(QStringLiteral("Double-click to load"));
-    QCOMPARE(preview->toolTip(), QStringLiteral("Double-click to load"));
-    w.SetLabelColor(QStringLiteral("color: #82be0f"));
-    QCOMPARE(w.GetNameLabel()->styleSheet(), QStringLiteral("color: #82be0f"));
-
-    // Initialized again without channels: the drop-down goes, nothing is built twice.
-    QCOMPARE(w.Initialize(7, QStringLiteral("Again")).code(), 0u);
-    QVERIFY(!comboOf(w));
-    QCOMPARE(w.findChildren<QLabel *>().size(), 2);
-    QCOMPARE(w.GetNameLabel()->text(), QStringLiteral("Again"));
-    QCOMPARE(w.GetCurrentChannel(), Vela::SubstanceChannel_None);
 }
 
 void tst_QSbsImageWidget::signalSpyCarriesArguments()
@@ -477,7 +382,6 @@ void tst_QSbsImageWidget::signalSpyCarriesArguments()
     initFull(w);
     QSignalSpy channel(&w, &QSbsImageWidget::ImportImageFromChannel);
     w.SetSelectedChannel(7);
-    QCOMPARE(channel.count(), 1);
     QCOMPARE(channel.at(0).at(1).value<Vela::ESubstanceUiChannel>(),
              Vela::SubstanceChannel_Emissive);
     // The string-based form of the signature names the host's types.
