@@ -110,6 +110,12 @@ public:
         return true;
     }
 
+    // Builds the widget from the records, then shows the window.
+    bool build(QNumericalWidgetBase *widget, int type, const Lu::CDynamicWidgetDescBase &desc)
+    {
+        return widget->Initialize(variable(type), desc).succeeded() && show();
+    }
+
     std::unique_ptr<QWidget> window;
     QLineEdit *other;
 };

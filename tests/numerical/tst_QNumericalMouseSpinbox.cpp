@@ -23,7 +23,10 @@ private slots:
     void destroyWhileTyping();
 
 private:
-    QNumericalMouseSpinbox *build(int type, const Lu::CDynamicWidgetDescBase &desc);
+    bool build(int type, const Lu::CDynamicWidgetDescBase &d)
+    {
+        return m_panel->build(m_widget, type, d);
+    }
     QMouseSpinBox *spinBox(int i) const { return m_widget->findChildren<QMouseSpinBox *>().at(i); }
     // Presses the left button in the middle of the spin box and moves the pointer by each offset
     // in turn, then releases it.
@@ -44,14 +47,6 @@ void tst_QNumericalMouseSpinbox::cleanup()
 {
     m_panel.reset();
     m_widget = nullptr;
-}
-
-QNumericalMouseSpinbox *tst_QNumericalMouseSpinbox::build(int type,
-                                                          const Lu::CDynamicWidgetDescBase &desc)
-{
-    if (m_widget->Initialize(variable(type), desc).failed())
-        return nullptr;
-    return m_panel->show() ? m_widget : nullptr;
 }
 
 void tst_QNumericalMouseSpinbox::drag(QMouseSpinBox *spinBox, const QList<QPoint> &offsets)
