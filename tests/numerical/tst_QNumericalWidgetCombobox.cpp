@@ -3,7 +3,6 @@
 #include "QNumericalWidgetCombobox.h"
 #include "VelaTest.h"
 
-#include <QAbstractItemView>
 #include <QLabel>
 
 #include <limits>
@@ -53,7 +52,6 @@ private slots:
     void pushValue_data();
     void pushValue();
     void chooseWithKeyboardAndWheel();
-    void chooseWithMouse();
     void setDescRefills();
     void setDescWithOtherCount();
 
@@ -166,24 +164,6 @@ void tst_QNumericalWidgetCombobox::chooseWithKeyboardAndWheel()
     VelaTest::wheel(m_combo, -1);
     QCOMPARE(m_combo->currentIndex(), 1);
     QCOMPARE(log.entries, NumericalTest::oneEdit(5));
-}
-
-void tst_QNumericalWidgetCombobox::chooseWithMouse()
-{
-    EditLog log(m_widget);
-    QTest::mouseClick(m_combo, Qt::LeftButton);
-    QAbstractItemView *view = m_combo->view();
-    QTRY_VERIFY(view->isVisible());
-    const QRect rect = view->visualRect(m_combo->model()->index(1, 0));
-    // A release right after the press that opened the list counts as part of that click, so the
-    // choice comes a double-click interval later, as a user's would.
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      QPoint(view->viewport()->width() / 2, rect.center().y()),
-                      QApplication::doubleClickInterval() + 50);
-    QTRY_VERIFY(!view->isVisible());
-    QCOMPARE(m_combo->currentIndex(), 1);
-    QCOMPARE(log.entries,
-             QStringList({ NumericalTest::valueChanged(5), NumericalTest::editFinished(5) }));
 }
 
 void tst_QNumericalWidgetCombobox::setDescRefills()
