@@ -1,8 +1,8 @@
 #ifndef NUMERICALTESTSUPPORT_H
 #define NUMERICALTESTSUPPORT_H
 
-// What the tests of the numeric material-input widgets share: building the host's records and a
-// log of the widget's signals in the order they arrived.
+// What the tests of the numeric material-input widgets share: the host's records, a log of the
+// widget's signals in the order they arrived and the window the widget is shown in.
 
 #include "QNumericalWidgetBase.h"
 
@@ -14,7 +14,6 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
-#include <cmath>
 #include <initializer_list>
 #include <memory>
 
@@ -140,16 +139,6 @@ inline QString editFinished(float x, float y = 0, float z = 0, float w = 0)
 inline QStringList oneEdit(float x, float y = 0, float z = 0, float w = 0)
 {
     return { valueChanged(x, y, z, w), editFinished(x, y, z, w) };
-}
-
-// Component-wise comparison within eps, for values that went through 8-bit colour channels.
-inline bool nearlyEqual(const Vela::CVector4f &a, const Vela::CVector4f &b, float eps = 0.001f)
-{
-    for (int i = 0; i < 4; ++i) {
-        if (!(std::fabs(a[i] - b[i]) <= eps))
-            return false;
-    }
-    return true;
 }
 
 } // namespace NumericalTest

@@ -75,8 +75,7 @@ void tst_QNumericalWidgetColor::valueRoundTrip_data()
     QTest::addColumn<QColor>("color");
     QTest::addColumn<Vela::CVector4f>("readBack");
     QTest::newRow("truncated") << Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f) << QColor(127, 63, 255)
-                               << Vela::CVector4f(0.498f, 0.247f, 1.0f, 1.0f);
-    QTest::newRow("black") << Vela::CVector4f() << QColor(0, 0, 0) << Vela::CVector4f(0, 0, 0, 1);
+                               << Vela::CVector4f(127 / 255.0f, 63 / 255.0f, 1.0f, 1.0f);
     QTest::newRow("out of range") << Vela::CVector4f(2.0f, -1.0f, 1e30f, -5.0f)
                                   << QColor(255, 0, 255) << Vela::CVector4f(1, 0, 1, 1);
     const float nan = std::numeric_limits<float>::quiet_NaN();
@@ -92,8 +91,7 @@ void tst_QNumericalWidgetColor::valueRoundTrip()
     QFETCH(Vela::CVector4f, readBack);
     m_widget->UpdateInputValue(value);
     QCOMPARE(m_button->GetColor(), color);
-    QVERIFY2(NumericalTest::nearlyEqual(m_widget->GetValue(), readBack),
-             qPrintable(NumericalTest::toText(m_widget->GetValue())));
+    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), readBack);
 }
 
 void tst_QNumericalWidgetColor::dialogSessions()
