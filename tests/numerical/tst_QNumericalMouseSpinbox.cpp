@@ -14,7 +14,6 @@ class tst_QNumericalMouseSpinbox : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void dragReportsEachStep();
     void typingReportsEachChange();
@@ -40,12 +39,6 @@ void tst_QNumericalMouseSpinbox::init()
 {
     m_widget = new QNumericalMouseSpinbox;
     m_panel.reset(new Panel(m_widget));
-}
-
-void tst_QNumericalMouseSpinbox::cleanup()
-{
-    m_panel.reset();
-    m_widget = nullptr;
 }
 
 void tst_QNumericalMouseSpinbox::drag(QMouseSpinBox *spinBox, const QList<QPoint> &offsets)

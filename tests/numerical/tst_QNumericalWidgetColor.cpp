@@ -16,7 +16,6 @@ class tst_QNumericalWidgetColor : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void construction();
     void valueRoundTrip_data();
@@ -51,13 +50,6 @@ void tst_QNumericalWidgetColor::init()
     m_button = m_widget->findChild<QColorButton *>();
     QVERIFY(m_button);
     QVERIFY(m_panel->show());
-}
-
-void tst_QNumericalWidgetColor::cleanup()
-{
-    m_panel.reset();
-    m_button = nullptr;
-    m_widget = nullptr;
 }
 
 void tst_QNumericalWidgetColor::construction()
@@ -135,8 +127,6 @@ void tst_QNumericalWidgetColor::dialogSessions()
 void tst_QNumericalWidgetColor::pushesAreSilent()
 {
     EditLog log(m_widget);
-    m_widget->UpdateInputValue(Vela::CVector4f(1, 0, 0, 1));
-    QCOMPARE(m_button->GetColor(), QColor(Qt::red));
     m_widget->SetValue(Vela::CVector4f(0, 0, 1, 0));
     QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
     QVERIFY(log.names.isEmpty());

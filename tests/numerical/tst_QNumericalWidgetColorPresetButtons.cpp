@@ -13,7 +13,6 @@ class tst_QNumericalWidgetColorPresetButtons : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void click_data();
     void click();
@@ -41,12 +40,6 @@ void tst_QNumericalWidgetColorPresetButtons::init()
     QVERIFY(m_panel->show());
     // Nothing is read from the records: no swatch is chosen yet.
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f());
-}
-
-void tst_QNumericalWidgetColorPresetButtons::cleanup()
-{
-    m_panel.reset();
-    m_swatches.clear();
 }
 
 void tst_QNumericalWidgetColorPresetButtons::click_data()

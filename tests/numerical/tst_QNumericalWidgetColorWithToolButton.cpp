@@ -39,7 +39,6 @@ class tst_QNumericalWidgetColorWithToolButton : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void splitName_data();
     void splitName();
@@ -65,11 +64,6 @@ void tst_QNumericalWidgetColorWithToolButton::init()
     QVERIFY(m_button);
     QVERIFY(m_action);
     QVERIFY(m_panel->show());
-}
-
-void tst_QNumericalWidgetColorWithToolButton::cleanup()
-{
-    m_panel.reset();
 }
 
 void tst_QNumericalWidgetColorWithToolButton::splitName_data()

@@ -21,7 +21,6 @@ class tst_QNumericalWidgetMultiLevelSlider : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void levelRoundTrip_data();
     void levelRoundTrip();
@@ -48,11 +47,6 @@ private:
 void tst_QNumericalWidgetMultiLevelSlider::init()
 {
     m_widget.reset(new QNumericalWidgetMultiLevelSlider);
-}
-
-void tst_QNumericalWidgetMultiLevelSlider::cleanup()
-{
-    m_widget.reset();
 }
 
 bool tst_QNumericalWidgetMultiLevelSlider::build(int type, const Lu::CDynamicWidgetDescBase &desc)

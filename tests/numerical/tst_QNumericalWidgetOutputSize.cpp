@@ -13,7 +13,6 @@ class tst_QNumericalWidgetOutputSize : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void pushValue_data();
     void pushValue();
@@ -44,11 +43,6 @@ void tst_QNumericalWidgetOutputSize::init()
     m_combo = m_widget->findChild<QComboBoxEx *>();
     QVERIFY(m_combo);
     QVERIFY(m_panel->show());
-}
-
-void tst_QNumericalWidgetOutputSize::cleanup()
-{
-    m_panel.reset();
 }
 
 void tst_QNumericalWidgetOutputSize::pushValue_data()

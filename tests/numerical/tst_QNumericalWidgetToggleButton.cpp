@@ -16,7 +16,6 @@ class tst_QNumericalWidgetToggleButton : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
     void construction();
     void values_data();
@@ -57,11 +56,6 @@ void tst_QNumericalWidgetToggleButton::init()
     QVERIFY(m_box);
     QVERIFY(!m_box->isChecked());
     QVERIFY(m_panel->show());
-}
-
-void tst_QNumericalWidgetToggleButton::cleanup()
-{
-    m_panel.reset();
 }
 
 void tst_QNumericalWidgetToggleButton::construction()

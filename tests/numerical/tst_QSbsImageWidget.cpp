@@ -50,7 +50,6 @@ class tst_QSbsImageWidget : public QObject
 private slots:
     void initTestCase() { QVERIFY(m_dir.isValid()); }
     void init();
-    void cleanup();
 
     void uninitialised();
     void entries();
@@ -90,12 +89,6 @@ void tst_QSbsImageWidget::init()
     m_w->Initialize(kUid, QStringLiteral("Base Color Input"), names,
                     Vela::CArrayList<std::wstring> { L"Wood", L"Stone" }, true);
     m_log.reset(new SignalLog(m_w.get()));
-}
-
-void tst_QSbsImageWidget::cleanup()
-{
-    m_log.reset();
-    m_w.reset();
 }
 
 void tst_QSbsImageWidget::uninitialised()
