@@ -12,114 +12,99 @@
 
 using Image = QNumericalWidgetImage;
 
-namespace {
-
-const char *const kButtonNames[] = { "qtLoadPushButton",   "qtSavePushButton",
-                                     "qtLaunchPushButton", "qtResetPushButton",
-                                     "qtDeletePushButton", "qtAdjustToolButton" };
-
-// The six button signals, in the order of the buttons above.
-const char *const kButtonSignals[] = { "LoadTexture(QString)",   "SaveTexture(QString)",
-                                       "LaunchTexture(QString)", "ResetTexture(QString)",
-                                       "DeleteTexture(QString)", "AdjustTexture(QString)" };
-
-void initialize(Image &w, const wchar_t *name = L"Albedo")
-{
-    Lu::CDynamicWidgetVariableBase var;
-    var.eType = Vela::DynamicVariable_Image;
-    var.vValue = Vela::CVector4f(0.25f, 0.5f, 0.75f, 1.0f);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = name;
-    desc.eBehaviorType = Vela::DynamicBehavior_Image;
-    desc.bTriggerBake = true;
-    w.Initialize(var, desc);
-}
-
-QToolButton *button(Image &w, int i)
-{
-    return w.findChild<QToolButton *>(QString::fromLatin1(kButtonNames[i]));
-}
-
-// Drags the data onto the preview and drops it there; true when the host accepted the drop.
-bool drop(Image &w, const QMimeData &mime)
-{
-    QLabel *preview = w.getImageLabel();
-    return VelaTest::dropAt(preview, preview->rect().center(), &mime);
-}
-
-bool dropFiles(Image &w, const QStringList &files)
-{
-    return drop(w, *VelaTest::fileMime(files));
-}
-
-bool enterFiles(Image &w, const QStringList &files)
-{
-    QLabel *preview = w.getImageLabel();
-    return VelaTest::dragEnter(preview, preview->rect().center(), VelaTest::fileMime(files).get());
-}
-
-QColor previewColor(Image &w)
-{
-    const QImage image = w.getImageLabel()->pixmap(Qt::ReturnByValue).toImage();
-    return image.isNull() ? QColor() : image.pixelColor(image.width() / 2, image.height() / 2);
-}
-
-} // namespace
+static const char *const kButtonNames[] = { "qtLoadPushButton",   "qtSavePushButton",
+                                            "qtLaunchPushButton", "qtResetPushButton",
+                                            "qtDeletePushButton", "qtAdjustToolButton" };
 
 class tst_QNumericalWidgetImage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { QVERIFY(m_dir.isValid()); }
+    void init();
     void form();
     void buttons_data();
     void buttons();
+    void buttonStates();
     void everySuffixOfTheMask_data();
     void everySuffixOfTheMask();
     void drops();
-    void buttonStates();
 
 private:
+    void initialize(const wchar_t *name)
+    {
+        Lu::CDynamicWidgetVariableBase var;
+        var.eType = Vela::DynamicVariable_Image;
+        Lu::CDynamicWidgetDescBase desc;
+        desc.strName = name;
+        desc.eBehaviorType = Vela::DynamicBehavior_Image;
+        m_w->Initialize(var, desc);
+    }
+    QToolButton *button(int i) const
+    {
+        return m_w->findChild<QToolButton *>(QString::fromLatin1(kButtonNames[i]));
+    }
+    bool enterFiles(const QStringList &names)
+    {
+        QStringList files;
+        for (const QString &name : names)
+            files << m_dir.filePath(name);
+        QLabel *preview = m_w->getImageLabel();
+        return VelaTest::dragEnter(preview, preview->rect().center(),
+                                   VelaTest::fileMime(files).get());
+    }
+    // Drags the data onto the preview and drops it there; true when the host accepted the drop.
+    bool drop(const QMimeData &mime)
+    {
+        QLabel *preview = m_w->getImageLabel();
+        return VelaTest::dropAt(preview, preview->rect().center(), &mime);
+    }
+    QColor previewColor() const
+    {
+        const QImage image = m_w->getImageLabel()->pixmap(Qt::ReturnByValue).toImage();
+        return image.isNull() ? QColor() : image.pixelColor(image.width() / 2, image.height() / 2);
+    }
+
     QTemporaryDir m_dir;
+    std::unique_ptr<Image> m_w;
 };
 
-void tst_QNumericalWidgetImage::initTestCase()
+void tst_QNumericalWidgetImage::init()
 {
-    QVERIFY(m_dir.isValid());
+    m_w.reset(new Image);
+    m_w->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_w.get()));
 }
 
 void tst_QNumericalWidgetImage::form()
 {
-    Image w;
-    initialize(w, L"Base Color Map");
+    initialize(L"Base Color Map");
     // Nothing is built beside the form.
-    QCOMPARE(w.findChildren<QLabel *>().size(), 2);
-    QCOMPARE(w.findChildren<QToolButton *>().size(), 6);
-    QCOMPARE(w.text(), QStringLiteral("Base Color Map"));
+    QCOMPARE(m_w->findChildren<QLabel *>().size(), 2);
+    QCOMPARE(m_w->findChildren<QToolButton *>().size(), 6);
+    QCOMPARE(m_w->text(), QStringLiteral("Base Color Map"));
 
     // Until the host pushes an image the preview shows the host's placeholder; it alone takes
     // drops.
-    QLabel *preview = w.getImageLabel();
-    QCOMPARE(previewColor(w), QColor(0x50, 0x50, 0x50));
+    QLabel *preview = m_w->getImageLabel();
+    QCOMPARE(previewColor(), QColor(0x50, 0x50, 0x50));
     QVERIFY(preview->acceptDrops());
-    QVERIFY(!w.acceptDrops());
+    QVERIFY(!m_w->acceptDrops());
 
     // The value is always one, and pushing another one raises nothing.
-    QSignalSpy changed(&w, &QNumericalWidgetBase::ValueChanged);
-    QSignalSpy finished(&w, &QNumericalWidgetBase::EditFinished);
-    w.SetValue(Vela::CVector4f(0.0f, 2.0f, -3.0f, 0.5f));
-    w.UpdateInputValue(Vela::CVector4f(7.0f, 7.0f, 7.0f, 7.0f));
-    QCOMPARE(w.GetValue(), Vela::CVector4f(1.0f, 1.0f, 1.0f, 1.0f));
+    QSignalSpy changed(m_w.get(), &QNumericalWidgetBase::ValueChanged);
+    QSignalSpy finished(m_w.get(), &QNumericalWidgetBase::EditFinished);
+    m_w->SetValue(Vela::CVector4f(0.0f, 2.0f, -3.0f, 0.5f));
+    m_w->UpdateInputValue(Vela::CVector4f(7.0f, 7.0f, 7.0f, 7.0f));
+    QCOMPARE(m_w->GetValue(), Vela::CVector4f(1.0f, 1.0f, 1.0f, 1.0f));
     QCOMPARE(changed.count() + finished.count(), 0);
 
     // A double-click on the preview asks for a file; a single click or a disabled widget not.
-    w.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&w));
-    QSignalSpy open(&w, &Image::OpenTextureFileDialog);
+    QSignalSpy open(m_w.get(), &Image::OpenTextureFileDialog);
     QTest::mouseDClick(preview, Qt::LeftButton);
     QTest::mouseClick(preview, Qt::LeftButton);
-    w.setEnabled(false);
+    m_w->setEnabled(false);
     QTest::mouseDClick(preview, Qt::LeftButton);
     QCOMPARE(open.count(), 1);
     QCOMPARE(open.at(0).at(0).toString(), QStringLiteral("Base Color Map"));
@@ -138,29 +123,53 @@ void tst_QNumericalWidgetImage::buttons()
 {
     QFETCH(int, index);
     QFETCH(QString, tip);
-    Image w;
-    w.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&w));
-    QList<QSharedPointer<QSignalSpy>> spies;
-    for (const char *signal : kButtonSignals) {
-        spies.append(QSharedPointer<QSignalSpy>::create(&w, QByteArray("2") + signal));
-        QVERIFY(spies.last()->isValid());
-    }
-    QCOMPARE(button(w, index)->toolTip(), tip);
-    // Before Initialize a click raises nothing.
-    QTest::mouseClick(button(w, index), Qt::LeftButton);
-    QCOMPARE(spies.at(index)->count(), 0);
-
-    initialize(w, L"Roughness");
-    QTest::mouseClick(button(w, index), Qt::LeftButton);
+    QCOMPARE(button(index)->toolTip(), tip);
+    using Signal = void (Image::*)(QString);
+    const Signal kSignals[] = {
+        &Image::LoadTexture,  &Image::SaveTexture,   &Image::LaunchTexture,
+        &Image::ResetTexture, &Image::DeleteTexture, &Image::AdjustTexture
+    };
+    QStringList log;
     for (int i = 0; i < 6; ++i)
-        QCOMPARE(spies.at(i)->count(), i == index ? 1 : 0);
-    QCOMPARE(spies.at(index)->at(0).at(0).toString(), QStringLiteral("Roughness"));
-    // A second Initialize does not make the click report twice.
-    initialize(w, L"Metallic");
-    QTest::mouseClick(button(w, index), Qt::LeftButton);
-    QCOMPARE(spies.at(index)->count(), 2);
-    QCOMPARE(spies.at(index)->at(1).at(0).toString(), QStringLiteral("Metallic"));
+        connect(m_w.get(), kSignals[i], this,
+                [&log, i](QString name) { log << QStringLiteral("%1 %2").arg(i).arg(name); });
+    // Before Initialize a click raises nothing.
+    QTest::mouseClick(button(index), Qt::LeftButton);
+    QVERIFY(log.isEmpty());
+    // Only the button's own signal, and a second Initialize does not make it report twice.
+    initialize(L"Roughness");
+    QTest::mouseClick(button(index), Qt::LeftButton);
+    initialize(L"Metallic");
+    QTest::mouseClick(button(index), Qt::LeftButton);
+    QCOMPARE(log,
+             (QStringList { QStringLiteral("%1 Roughness").arg(index),
+                            QStringLiteral("%1 Metallic").arg(index) }));
+}
+
+void tst_QNumericalWidgetImage::buttonStates()
+{
+    initialize(L"Albedo");
+    // Bits beyond the six buttons are ignored.
+    m_w->SetVisibleButtons(Image::EButtonList(0xFFFFFFC0u | Image::Button_Load | Image::Button_Reset
+                                              | Image::Button_Adjust));
+    const bool expected[] = { true, false, false, true, false, true };
+    for (int i = 0; i < 6; ++i)
+        QCOMPARE(button(i)->isVisible(), expected[i]);
+
+    // Enabling and disabling touches only the buttons named.
+    button(0)->setEnabled(false);
+    m_w->SetButtonsEnableState(Image::Button_Save | Image::Button_Delete, false);
+    const bool afterDisable[] = { false, false, true, true, false, true };
+    for (int i = 0; i < 6; ++i)
+        QCOMPARE(button(i)->isEnabled(), afterDisable[i]);
+
+    // A disabled button raises nothing.
+    QSignalSpy save(m_w.get(), &Image::SaveTexture);
+    QTest::mouseClick(button(1), Qt::LeftButton);
+    m_w->SetButtonsEnableState(Image::Button_Save, true);
+    QVERIFY(!button(0)->isEnabled());
+    QTest::mouseClick(button(1), Qt::LeftButton);
+    QCOMPARE(save.count(), 1);
 }
 
 void tst_QNumericalWidgetImage::everySuffixOfTheMask_data()
@@ -177,42 +186,40 @@ void tst_QNumericalWidgetImage::everySuffixOfTheMask()
 {
     QFETCH(unsigned int, bit);
     QFETCH(QStringList, suffixes);
-    const QStringList all =
-        QStringLiteral("jpg jpeg bmp gif png tga tif tiff exr hdr mp4 avi wmv").split(' ');
-    Image w;
-    initialize(w);
+    initialize(L"Albedo");
     // A filter replaces the one before it.
-    w.SetFileTypeFilter(Image::EAcceptImageType(0x7FF & ~bit));
-    w.SetFileTypeFilter(Image::EAcceptImageType(bit));
-    for (const QString &suffix : all)
-        QCOMPARE(enterFiles(w, { m_dir.filePath("file." + suffix) }), suffixes.contains(suffix));
+    m_w->SetFileTypeFilter(Image::EAcceptImageType(0x7FF & ~bit));
+    m_w->SetFileTypeFilter(Image::EAcceptImageType(bit));
+    for (const QString &suffix :
+         QStringLiteral("jpg jpeg bmp gif png tga tif tiff exr hdr mp4 avi wmv").split(' '))
+        QCOMPARE(enterFiles({ "file." + suffix }), suffixes.contains(suffix));
 }
 
 void tst_QNumericalWidgetImage::drops()
 {
-    Image w;
-    initialize(w, L"Height");
+    initialize(L"Height");
     // Only the first file's suffix counts, in any case; bits beyond the table accept nothing.
-    w.SetFileTypeFilter(Image::EAcceptImageType(0xF800u));
-    QVERIFY(!enterFiles(w, { m_dir.filePath("a.png") }));
-    w.SetFileTypeFilter(Image::AcceptImage_Png | Image::AcceptImage_Jpg);
-    QVERIFY(enterFiles(w, { m_dir.filePath("PHOTO.JPEG") }));
-    QVERIFY(!enterFiles(w, { m_dir.filePath("dir.png/README") }));
-    QVERIFY(!enterFiles(w, { m_dir.filePath("notes.txt"), m_dir.filePath("a.png") }));
+    m_w->SetFileTypeFilter(Image::EAcceptImageType(0xF800u));
+    QVERIFY(!enterFiles({ "a.png" }));
+    m_w->SetFileTypeFilter(Image::AcceptImage_Png | Image::AcceptImage_Jpg);
+    QVERIFY(enterFiles({ "PHOTO.JPEG" }));
+    QVERIFY(!enterFiles({ "dir.png/README" }));
+    QVERIFY(!enterFiles({ "notes.txt", "a.png" }));
+
     QImage start(8, 8, QImage::Format_RGB32);
     start.fill(Qt::darkGreen);
-    w.SetImage(start);
+    m_w->SetImage(start);
     // The host's side: load the first dropped file and show it.
     QStringList names;
     QObject *dropTarget = nullptr;
-    connect(&w, &Image::DropToLoadTextureFile, &w,
+    connect(m_w.get(), &Image::DropToLoadTextureFile, this,
             [&](const QString &name, QObject *pObject, QDropEvent *pDropEvent) {
                 names.append(name);
                 dropTarget = pObject;
                 const QList<QUrl> urls = pDropEvent->mimeData()->urls();
                 QImage image;
                 if (!urls.isEmpty() && Vela::LoadImageFile(urls.first().toLocalFile(), image)) {
-                    w.SetImage(image);
+                    m_w->SetImage(image);
                     pDropEvent->acceptProposedAction();
                 }
             });
@@ -223,56 +230,25 @@ void tst_QNumericalWidgetImage::drops()
     QVERIFY(!png.isEmpty());
     QMimeData plain;
     plain.setText(png);
-    drop(w, plain);
+    drop(plain);
     QMimeData remote;
     remote.setUrls({ QUrl(QStringLiteral("https://example.org/texture.png")) });
-    drop(w, remote);
-    w.setEnabled(false);
-    dropFiles(w, { png });
+    drop(remote);
+    m_w->setEnabled(false);
+    drop(*VelaTest::fileMime({ png }));
     QVERIFY(names.isEmpty());
-    QCOMPARE(previewColor(w), QColor(Qt::darkGreen));
+    QCOMPARE(previewColor(), QColor(Qt::darkGreen));
 
-    w.setEnabled(true);
-    QVERIFY(dropFiles(w, { png }));
+    m_w->setEnabled(true);
+    QVERIFY(drop(*VelaTest::fileMime({ png })));
     QCOMPARE(names, QStringList { "Height" });
-    QCOMPARE(dropTarget, w.getImageLabel());
-    QCOMPARE(previewColor(w), QColor(Qt::magenta));
+    QCOMPARE(dropTarget, m_w->getImageLabel());
+    QCOMPARE(previewColor(), QColor(Qt::magenta));
     // The preview keeps its size; the image is scaled into it.
-    QCOMPARE(w.GetImageSize(), QSize(80, 80));
+    QCOMPARE(m_w->GetImageSize(), QSize(80, 80));
     // A null image empties the preview.
-    w.SetImage(QImage());
-    QVERIFY(w.pixmap().isNull());
-}
-
-void tst_QNumericalWidgetImage::buttonStates()
-{
-    Image w;
-    initialize(w);
-    w.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&w));
-    // Bits beyond the six buttons are ignored.
-    w.SetVisibleButtons(Image::EButtonList(0xFFFFFFC0u | Image::Button_Load | Image::Button_Reset
-                                           | Image::Button_Adjust));
-    const bool expected[] = { true, false, false, true, false, true };
-    for (int i = 0; i < 6; ++i)
-        QCOMPARE(button(w, i)->isVisible(), expected[i]);
-
-    // Enabling and disabling touches only the buttons named.
-    button(w, 0)->setEnabled(false);
-    w.SetButtonsEnableState(Image::Button_Save | Image::Button_Delete, false);
-    const bool afterDisable[] = { false, false, true, true, false, true };
-    for (int i = 0; i < 6; ++i)
-        QCOMPARE(button(w, i)->isEnabled(), afterDisable[i]);
-
-    // A disabled button raises nothing.
-    QSignalSpy save(&w, &Image::SaveTexture);
-    QTest::mouseClick(button(w, 1), Qt::LeftButton);
-    QCOMPARE(save.count(), 0);
-
-    w.SetButtonsEnableState(Image::Button_Save, true);
-    QVERIFY(!button(w, 0)->isEnabled());
-    QTest::mouseClick(button(w, 1), Qt::LeftButton);
-    QCOMPARE(save.count(), 1);
+    m_w->SetImage(QImage());
+    QVERIFY(m_w->pixmap().isNull());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetImage)
