@@ -4,8 +4,6 @@
 #include "VelaTest.h"
 
 #include <QLabel>
-#include <QLayout>
-#include <QMouseEvent>
 
 using namespace NumericalTest;
 

@@ -20,7 +20,6 @@ private slots:
     void scales_data();
     void scales();
     void independentSpin();
-    void componentLabels_data();
     void componentLabels();
     void dragSliderInGroup();
     void labelDoubleClick_data();
@@ -126,32 +125,16 @@ void tst_QNumericalWidgetSlider::independentSpin()
     QCOMPARE(editor()->SpinMaximum(), 10.0);
 }
 
-void tst_QNumericalWidgetSlider::componentLabels_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("labels"); // key:text pairs, comma separated
-    QTest::addColumn<QStringList>("expected");
-    // One entry: index 0 is below the count and added empty, so index 1 still finds its text.
-    QTest::newRow("first missing") << 2 << "1:Y" << QStringList { "", "Y", "" };
-    QTest::newRow("utf-8") << 1 << QString::fromUtf8("0:H\xc3\xb6he") << QStringList { "Höhe", "" };
-}
-
 void tst_QNumericalWidgetSlider::componentLabels()
 {
-    QFETCH(int, type);
-    QFETCH(QString, labels);
-    QFETCH(QStringList, expected);
-
+    // Index 0 is below the count and added empty, so index 1 still finds its UTF-8 text.
     Lu::CDynamicWidgetDescBase desc = description(L"Color", 0.0f, 1.0f, {});
-    for (const QString &pair : labels.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
-        const int colon = pair.indexOf(QLatin1Char(':'));
-        desc.mapLabels[pair.left(colon).toInt()] = pair.mid(colon + 1).toStdString();
-    }
-    QVERIFY(build(type, desc));
+    desc.mapLabels[1] = "H\xc3\xb6he";
+    QVERIFY(build(2, desc));
     QStringList texts;
     for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins())
         texts << editor->text();
-    QCOMPARE(texts, expected);
+    QCOMPARE(texts, (QStringList { QString(), QString::fromUtf8("H\xc3\xb6he"), QString() }));
 }
 
 void tst_QNumericalWidgetSlider::dragSliderInGroup()

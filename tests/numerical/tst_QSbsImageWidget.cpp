@@ -245,11 +245,6 @@ void tst_QSbsImageWidget::dragEnter()
         files.append(m_dir.filePath(name));
     QCOMPARE(VelaTest::dragEnter(m_w.get(), QPoint(1, 1), VelaTest::fileMime(files).get()),
              accepted);
-
-    // Data without files is never accepted.
-    QMimeData text;
-    text.setText(QStringLiteral("a.png"));
-    QVERIFY(!VelaTest::dragEnter(m_w.get(), QPoint(1, 1), &text));
 }
 
 void tst_QSbsImageWidget::drops()
