@@ -6,8 +6,6 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <climits>
-
 // The smallest concrete numerical widget: one plain spin box per numeric component. Its spin
 // boxes raise their own signals when set, so SetValue and UpdateInputValue can be told apart.
 class SpinNumericalWidget : public QNumericalWidgetBase
@@ -66,8 +64,6 @@ class tst_QNumericalWidgetBase : public QObject
 
 private slots:
     void vectorComponents();
-    void componentCount_data();
-    void componentCount();
     void initialize();
     void pushedValues();
     void destroyWhileEditing();
@@ -82,28 +78,6 @@ void tst_QNumericalWidgetBase::vectorComponents()
     v.Set(4, 7.0f);
     v.Set(-1, 7.0f);
     QVERIFY(v == Vela::CVector4f(1.5f, -2.0f, 9.0f, 4.0f));
-}
-
-void tst_QNumericalWidgetBase::componentCount_data()
-{
-    QTest::addColumn<int>("type");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("isFloat");
-    QTest::newRow("float1") << 0 << 1 << true;
-    QTest::newRow("int4") << 7 << 4 << false;
-    QTest::newRow("image") << 10 << 0 << false;
-    QTest::newRow("huge") << INT_MAX << 0 << false;
-    QTest::newRow("most negative") << INT_MIN << 0 << false;
-}
-
-void tst_QNumericalWidgetBase::componentCount()
-{
-    QFETCH(int, type);
-    QFETCH(int, count);
-    QFETCH(bool, isFloat);
-    const auto eType = static_cast<Vela::EDynamicWidgetVariableType>(type);
-    QCOMPARE(Vela::DynamicVariableComponentCount(eType), count);
-    QCOMPARE(Vela::IsFloatVariableType(eType), isFloat);
 }
 
 void tst_QNumericalWidgetBase::initialize()

@@ -42,8 +42,7 @@ private slots:
 
     void splitName_data();
     void splitName();
-    void dialogEdit();
-    void pushesAreSilent();
+    void session();
 
 private:
     std::unique_ptr<NumericalTest::Panel> m_panel;
@@ -99,7 +98,7 @@ void tst_QNumericalWidgetColorWithToolButton::splitName()
     QCOMPARE(actionButton(&widget)->text(), buttonText);
 }
 
-void tst_QNumericalWidgetColorWithToolButton::dialogEdit()
+void tst_QNumericalWidgetColorWithToolButton::session()
 {
     QStringList calls;
     m_widget->SetUndoRedoFunctions(
@@ -117,14 +116,11 @@ void tst_QNumericalWidgetColorWithToolButton::dialogEdit()
     QCOMPARE(log.names, NumericalTest::oneEdit());
     NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(1, 0, 0, 1));
     QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
-}
 
-void tst_QNumericalWidgetColorWithToolButton::pushesAreSilent()
-{
-    EditLog log(m_widget);
+    // Pushed and re-described values are shown silently.
+    log.clear();
     m_widget->SetValue(Vela::CVector4f(1, 1, 0, 0));
     QCOMPARE(m_button->GetColor(), QColor(Qt::yellow));
-    // Re-describing takes the new value and name, also silently.
     Lu::CDynamicWidgetVariableBase var;
     var.vValue = Vela::CVector4f(0, 0, 1, 1);
     m_widget->SetDesc(var, describe(QStringLiteral("Hair_Randomize")));

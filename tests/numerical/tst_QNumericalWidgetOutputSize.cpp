@@ -50,7 +50,6 @@ void tst_QNumericalWidgetOutputSize::pushValue_data()
     QTest::addColumn<Vela::CVector4f>("value");
     QTest::addColumn<QString>("text");
     QTest::addColumn<Vela::CVector4f>("reported");
-    QTest::newRow("16") << Vela::CVector4f(4, 0, 0, 0) << "16x16" << Vela::CVector4f(4, 4, 0, 0);
     QTest::newRow("512") << Vela::CVector4f(9, 0, 0, 0) << "512x512" << Vela::CVector4f(9, 9, 0, 0);
     QTest::newRow("y ignored") << Vela::CVector4f(11.7f, 4, 0, 0) << "2048x2048"
                                << Vela::CVector4f(11, 11, 0, 0);
