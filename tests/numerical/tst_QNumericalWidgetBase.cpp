@@ -2,6 +2,7 @@
 #include "VelaTest.h"
 
 #include <QDoubleSpinBox>
+#include <QLayout>
 #include <QSignalSpy>
 #include <QtTest>
 
