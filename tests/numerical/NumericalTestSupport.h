@@ -47,9 +47,8 @@ inline QString toText(const Vela::CVector4f &v)
     return QStringLiteral("(%1, %2, %3, %4)").arg(v.x).arg(v.y).arg(v.z).arg(v.w);
 }
 
-// Records every signal of a numerical widget in the order raised: its name in `names`, the
-// packed value of ValueChanged / EditFinished in `values`, and both as "ValueChanged(x, y, z, w)"
-// in `entries`.
+// Records every signal of a numerical widget in the order raised, with the packed value of
+// ValueChanged / EditFinished: "ValueChanged(x, y, z, w)".
 class EditLog : public QObject
 {
 public:
@@ -65,24 +64,14 @@ public:
                 [this](int n) { add(QStringLiteral("ClickedButton %1").arg(n)); });
     }
 
-    void clear()
-    {
-        names.clear();
-        values.clear();
-        entries.clear();
-    }
+    void clear() { entries.clear(); }
 
-    QStringList names;
-    QList<Vela::CVector4f> values;
     QStringList entries;
 
 private:
     void add(const QString &name, const Vela::CVector4f *value = nullptr)
     {
-        names << name;
         entries << (value ? name + toText(*value) : name);
-        if (value)
-            values << *value;
     }
 };
 
@@ -118,12 +107,6 @@ public:
     std::unique_ptr<QWidget> window;
     QLineEdit *other;
 };
-
-// The names of one user edit: a value report followed by the end of the edit.
-inline QStringList oneEdit()
-{
-    return { QStringLiteral("ValueChanged"), QStringLiteral("EditFinished") };
-}
 
 inline QString valueChanged(float x, float y = 0, float z = 0, float w = 0)
 {

@@ -99,16 +99,16 @@ void tst_QNumericalWidgetColor::dialogSessions()
         dialog->reject();
     });
     // The live change and its reversal are both edits of their own.
-    QCOMPARE(log.names, NumericalTest::oneEdit() + NumericalTest::oneEdit());
-    NUMERICAL_COMPARE_VECTOR(log.values.at(0), Vela::CVector4f(1, 0, 0, 1));
-    NUMERICAL_COMPARE_VECTOR(log.values.at(3), before);
+    QCOMPARE(log.entries,
+             NumericalTest::oneEdit(1, 0, 0, 1)
+                 + NumericalTest::oneEdit(before.x, before.y, before.z, before.w));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), before);
     QCOMPARE(calls, (QStringList { "begin", "end", "reverted" }));
 
     // Cancelled without a change: nothing to report.
     log.clear();
     runDialog([](QColorDialog *dialog) { dialog->reject(); });
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 
     log.clear();
     calls.clear();
@@ -116,11 +116,10 @@ void tst_QNumericalWidgetColor::dialogSessions()
         QCOMPARE(dialog->currentColor(), QColor(127, 63, 255));
         dialog->setCurrentColor(QColor(0, 255, 51));
         // The widget follows the dialog live.
-        QCOMPARE(log.names, NumericalTest::oneEdit());
+        QCOMPARE(log.entries, NumericalTest::oneEdit(0, 1, 0.2f, 1));
         dialog->accept();
     });
-    QCOMPARE(log.names, NumericalTest::oneEdit());
-    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(0.0f, 1.0f, 0.2f, 1.0f));
+    QCOMPARE(log.entries, NumericalTest::oneEdit(0, 1, 0.2f, 1));
     QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 }
 
@@ -129,7 +128,7 @@ void tst_QNumericalWidgetColor::pushesAreSilent()
     EditLog log(m_widget);
     m_widget->SetValue(Vela::CVector4f(0, 0, 1, 0));
     QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 
     // Re-describing takes the new value, also silently, and drops the colon.
     Lu::CDynamicWidgetVariableBase var;
@@ -141,7 +140,7 @@ void tst_QNumericalWidgetColor::pushesAreSilent()
     m_widget->SetDesc(var, desc);
     QCOMPARE(label->text(), QStringLiteral("Tint"));
     QCOMPARE(m_button->GetColor(), QColor(Qt::green));
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetColor)

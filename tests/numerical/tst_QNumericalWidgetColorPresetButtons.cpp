@@ -65,7 +65,7 @@ void tst_QNumericalWidgetColorPresetButtons::click()
     QTest::mouseClick(swatch, Qt::LeftButton);
     // A swatch reports its number only, never a value edit, and again on each click.
     const QString report = QStringLiteral("ClickedButton %1").arg(preset);
-    QCOMPARE(log.names, (QStringList { report, report }));
+    QCOMPARE(log.entries, (QStringList { report, report }));
     const float f = float(preset);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(f, f, f, f));
 }
@@ -85,7 +85,7 @@ void tst_QNumericalWidgetColorPresetButtons::pushesChangeNothing()
     QCOMPARE(m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text(),
              QStringLiteral("Eyes"));
     QCOMPARE(m_widget->findChildren<QToolButton *>().size(), 4);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetColorPresetButtons)

@@ -107,14 +107,13 @@ void tst_QNumericalWidgetColorWithToolButton::session()
     EditLog log(m_widget);
     // The action button reports a click only.
     QTest::mouseClick(m_action, Qt::LeftButton);
-    QCOMPARE(log.names, QStringList { "Clicked" });
+    QCOMPARE(log.entries, QStringList { "Clicked" });
     log.clear();
     ColorTest::runButtonSession(m_button, m_button->ColorDialogUi(), [](QColorDialog *dialog) {
         dialog->setCurrentColor(QColor(255, 0, 0));
         dialog->accept();
     });
-    QCOMPARE(log.names, NumericalTest::oneEdit());
-    NUMERICAL_COMPARE_VECTOR(log.values.at(1), Vela::CVector4f(1, 0, 0, 1));
+    QCOMPARE(log.entries, NumericalTest::oneEdit(1, 0, 0, 1));
     QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 
     // Pushed and re-described values are shown silently.
@@ -125,7 +124,7 @@ void tst_QNumericalWidgetColorWithToolButton::session()
     var.vValue = Vela::CVector4f(0, 0, 1, 1);
     m_widget->SetDesc(var, describe(QStringLiteral("Hair_Randomize")));
     QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetColorWithToolButton)

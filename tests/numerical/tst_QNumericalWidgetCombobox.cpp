@@ -69,7 +69,7 @@ void tst_QNumericalWidgetCombobox::init()
     // The current value is not read: the first choice is current until the host pushes one.
     var.vValue = Vela::CVector4f(5, 0, 0, 0);
     QCOMPARE(m_widget->Initialize(var, choices({ { 5, "High" }, { 2, "Low" } })).code(), 0u);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
     m_combo = m_widget->findChild<QComboBoxEx *>();
     QVERIFY(m_combo);
     QVERIFY(m_panel->show());
@@ -117,7 +117,7 @@ void tst_QNumericalWidgetCombobox::pushValue()
     // SetValue is as quiet.
     m_widget->SetValue(Vela::CVector4f(2, 0, 0, 0));
     QCOMPARE(m_combo->currentIndex(), 0);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 void tst_QNumericalWidgetCombobox::chooseWithKeyboardAndWheel()
@@ -125,7 +125,7 @@ void tst_QNumericalWidgetCombobox::chooseWithKeyboardAndWheel()
     EditLog log(m_widget);
     // Scrolling a panel past the drop-down does not change it.
     VelaTest::wheel(m_combo, -1);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
     m_combo->setFocus();
     QTRY_VERIFY(m_combo->hasFocus());
     QTest::keyClick(m_combo, Qt::Key_Down);
@@ -155,7 +155,7 @@ void tst_QNumericalWidgetCombobox::setDescRefills()
     QCOMPARE(itemValues(m_combo), (QList<int> { 1, 4 }));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
     QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Detail"));
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 
     // The refilled drop-down still reports the user's choices.
     m_combo->setFocus();
@@ -178,7 +178,7 @@ void tst_QNumericalWidgetCombobox::setDescWithOtherCount()
     // The widget now follows the newer drop-down.
     m_widget->UpdateInputValue(Vela::CVector4f(3, 0, 0, 0));
     QCOMPARE(second->currentIndex(), 2);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetCombobox)

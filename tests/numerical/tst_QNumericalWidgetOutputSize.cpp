@@ -39,7 +39,7 @@ void tst_QNumericalWidgetOutputSize::init()
     // Choices and ranges of the description are not read.
     desc.mapLabels = { { 1, "Ignored" } };
     QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
     m_combo = m_widget->findChild<QComboBoxEx *>();
     QVERIFY(m_combo);
     QVERIFY(m_panel->show());
@@ -66,7 +66,7 @@ void tst_QNumericalWidgetOutputSize::pushValue()
     m_widget->SetValue(value);
     QCOMPARE(m_combo->currentText(), text);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), reported);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 void tst_QNumericalWidgetOutputSize::chooseWithKeyboard()
@@ -99,7 +99,7 @@ void tst_QNumericalWidgetOutputSize::setDescKeepsEntries()
     QCOMPARE(m_widget->findChildren<QComboBoxEx *>().size(), 1);
     QCOMPARE(m_combo->currentText(), QStringLiteral("512x512"));
     QCOMPARE(label->text(), QStringLiteral("Output Size :"));
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetOutputSize)

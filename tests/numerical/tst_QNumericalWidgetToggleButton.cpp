@@ -51,7 +51,7 @@ void tst_QNumericalWidgetToggleButton::init()
     desc.strName = L"Invert Normal";
     desc.eBehaviorType = Vela::DynamicBehavior_ToggleButton;
     QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
     m_box = m_widget->findChild<QCheckBox *>();
     QVERIFY(m_box);
     QVERIFY(!m_box->isChecked());
@@ -104,7 +104,7 @@ void tst_QNumericalWidgetToggleButton::values()
     m_widget->SetValue(Vela::CVector4f(pushed, 1, 1, 1));
     QCOMPARE(m_box->isChecked(), checked);
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(report, 0, 0, 0));
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
     QVERIFY(!m_box->signalsBlocked());
 
     click();
@@ -133,7 +133,7 @@ void tst_QNumericalWidgetToggleButton::keyboardAndRedescribe()
     m_widget->SetDesc(var, desc);
     QCOMPARE(m_box->text(), QStringLiteral("Flip Green"));
     QVERIFY(!m_widget->IsChecked());
-    QVERIFY(log.names.isEmpty());
+    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetToggleButton)
