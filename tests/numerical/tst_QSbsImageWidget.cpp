@@ -195,14 +195,13 @@ void tst_QSbsImageWidget::previewAndVisibility()
     m_w->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_w.get()));
     QLabel *label = m_w->GetImageLabel();
+    // A press with any other button than the right one counts as hovering, as entering does.
     QTest::mousePress(label, Qt::RightButton);
-    QTest::mouseRelease(label, Qt::RightButton);
+    QTest::mousePress(label, Qt::MiddleButton);
     QTest::mouseDClick(label, Qt::LeftButton);
     QEvent enter(QEvent::Enter);
     QApplication::sendEvent(label, &enter);
-    QCOMPARE(m_log->lines.count(QStringLiteral("OpenDialog 4711")), 1);
-    m_log->lines.removeAll(QStringLiteral("OpenDialog 4711"));
-    QCOMPARE(m_log->lines, (QStringList { "Menu 4711", "Hover" }));
+    QCOMPARE(m_log->lines, (QStringList { "Menu 4711", "Hover", "OpenDialog 4711", "Hover" }));
 
     // A disabled widget answers none of it.
     m_log->lines.clear();
