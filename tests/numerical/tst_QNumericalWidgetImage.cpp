@@ -84,6 +84,10 @@ void tst_QNumericalWidgetImage::form()
     QCOMPARE(m_w->findChildren<QLabel *>().size(), 2);
     QCOMPARE(m_w->findChildren<QToolButton *>().size(), 6);
     QCOMPARE(m_w->text(), QStringLiteral("Base Color Map"));
+    // labelName is the name label's object name, not its text.
+    QVERIFY(m_w->setProperty("labelName", QStringLiteral("qtMaskName")));
+    QCOMPARE(m_w->findChild<QLabel *>(QStringLiteral("qtMaskName"))->text(),
+             QStringLiteral("Base Color Map"));
 
     // Until the host pushes an image the preview shows the host's placeholder; it alone takes
     // drops.
