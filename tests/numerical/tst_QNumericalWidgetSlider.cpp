@@ -108,10 +108,7 @@ void tst_QNumericalWidgetSlider::independentSpin()
     desc.afSpinMinimum[0] = -10.0f;
     desc.afSpinMaximum[0] = 10.0f;
     QVERIFY(build(0, desc));
-    // Both arrows tell that the spin box reaches beyond the slider.
-    QVERIFY(!editor()->UI()->qtLeftArrowLabel->isHidden());
-    QVERIFY(!editor()->UI()->qtRightArrowLabel->isHidden());
-
+    // The spin box reaches beyond the slider.
     EditLog log(m_widget);
     COMBO_TYPE_INTO(editor()->UI()->qtDoubleSpinBox, "7.5");
     QCOMPARE(log.entries.mid(log.entries.size() - 2), oneEdit(7.5f));
