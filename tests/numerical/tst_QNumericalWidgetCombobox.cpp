@@ -21,20 +21,13 @@ Lu::CDynamicWidgetDescBase choices(Vela::CMap<int, std::string> labels,
     return desc;
 }
 
-QStringList itemTexts(const QComboBox *combo)
+// The entries as "text=value".
+QStringList items(const QComboBox *combo)
 {
-    QStringList texts;
+    QStringList entries;
     for (int i = 0; i < combo->count(); ++i)
-        texts << combo->itemText(i);
-    return texts;
-}
-
-QList<int> itemValues(const QComboBox *combo)
-{
-    QList<int> values;
-    for (int i = 0; i < combo->count(); ++i)
-        values << combo->itemData(i, Qt::UserRole).toInt();
-    return values;
+        entries << combo->itemText(i) + '=' + combo->itemData(i, Qt::UserRole).toString();
+    return entries;
 }
 
 } // namespace
@@ -141,8 +134,7 @@ void tst_QNumericalWidgetCombobox::chooseWithKeyboardAndWheel()
 void tst_QNumericalWidgetCombobox::setDescRefills()
 {
     // Sorted by value, the first one current.
-    QCOMPARE(itemTexts(m_combo), (QStringList { "Low", "High" }));
-    QCOMPARE(itemValues(m_combo), (QList<int> { 2, 5 }));
+    QCOMPARE(items(m_combo), (QStringList { "Low=2", "High=5" }));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(2, 0, 0, 0));
     QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Quality"));
 
@@ -152,7 +144,7 @@ void tst_QNumericalWidgetCombobox::setDescRefills()
                       choices({ { 1, "Coarse" }, { 4, "Fine" } }, QStringLiteral("Detail")));
     QVERIFY(!m_combo->signalsBlocked());
 
-    QCOMPARE(itemValues(m_combo), (QList<int> { 1, 4 }));
+    QCOMPARE(items(m_combo), (QStringList { "Coarse=1", "Fine=4" }));
     NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
     QCOMPARE(m_widget->findChild<QLabel *>()->text(), QStringLiteral("Detail"));
     QVERIFY(log.entries.isEmpty());
@@ -172,9 +164,9 @@ void tst_QNumericalWidgetCombobox::setDescWithOtherCount()
     // A second drop-down is built below the first one, which stays as it was.
     const QList<QComboBoxEx *> combos = m_widget->findChildren<QComboBoxEx *>();
     QCOMPARE(combos.size(), 2);
-    QCOMPARE(itemTexts(m_combo), QString("Low,High").split(','));
+    QCOMPARE(items(m_combo), (QStringList { "Low=2", "High=5" }));
     QComboBoxEx *second = combos.at(0) == m_combo ? combos.at(1) : combos.at(0);
-    QCOMPARE(itemTexts(second), QString("A,B,C").split(','));
+    QCOMPARE(items(second), (QStringList { "A=1", "B=2", "C=3" }));
     // The widget now follows the newer drop-down.
     m_widget->UpdateInputValue(Vela::CVector4f(3, 0, 0, 0));
     QCOMPARE(second->currentIndex(), 2);

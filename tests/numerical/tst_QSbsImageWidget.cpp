@@ -292,8 +292,6 @@ void tst_QSbsImageWidget::drops()
     QVERIFY(dragAndDrop({ png }));
     QCOMPARE(m_log->lines, QStringList { "Drop 4711 good.png" });
     QCOMPARE(preview().toImage().pixelColor(8, 8), QColor(Qt::yellow));
-    QCOMPARE(m_w->GetImageSize(), QSize(102, 102));
-    QCOMPARE(combo()->currentIndex(), 13);
 
     // A disabled widget takes no drag, so no drop reaches it.
     m_w->setEnabled(false);
