@@ -1,8 +1,8 @@
 #ifndef NUMERICALTESTSUPPORT_H
 #define NUMERICALTESTSUPPORT_H
 
-// What the tests of the numeric material-input widgets share: building the host's records and a
-// log of the widget's signals in the order they arrived.
+// What the tests of the numeric material-input widgets share: the host's records, a log of the
+// widget's signals in the order they arrived and the window the widget is shown in.
 
 #include "QNumericalWidgetBase.h"
 
@@ -14,7 +14,6 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
-#include <cmath>
 #include <initializer_list>
 #include <memory>
 
@@ -48,9 +47,8 @@ inline QString toText(const Vela::CVector4f &v)
     return QStringLiteral("(%1, %2, %3, %4)").arg(v.x).arg(v.y).arg(v.z).arg(v.w);
 }
 
-// Records every signal of a numerical widget in the order raised: its name in `names`, the
-// packed value of ValueChanged / EditFinished in `values`, and both as "ValueChanged(x, y, z, w)"
-// in `entries`.
+// Records every signal of a numerical widget in the order raised, with the packed value of
+// ValueChanged / EditFinished: "ValueChanged(x, y, z, w)".
 class EditLog : public QObject
 {
 public:
@@ -66,24 +64,14 @@ public:
                 [this](int n) { add(QStringLiteral("ClickedButton %1").arg(n)); });
     }
 
-    void clear()
-    {
-        names.clear();
-        values.clear();
-        entries.clear();
-    }
+    void clear() { entries.clear(); }
 
-    QStringList names;
-    QList<Vela::CVector4f> values;
     QStringList entries;
 
 private:
     void add(const QString &name, const Vela::CVector4f *value = nullptr)
     {
-        names << name;
         entries << (value ? name + toText(*value) : name);
-        if (value)
-            values << *value;
     }
 };
 
@@ -110,15 +98,15 @@ public:
         return true;
     }
 
+    // Builds the widget from the records, then shows the window.
+    bool build(QNumericalWidgetBase *widget, int type, const Lu::CDynamicWidgetDescBase &desc)
+    {
+        return widget->Initialize(variable(type), desc).succeeded() && show();
+    }
+
     std::unique_ptr<QWidget> window;
     QLineEdit *other;
 };
-
-// The names of one user edit: a value report followed by the end of the edit.
-inline QStringList oneEdit()
-{
-    return { QStringLiteral("ValueChanged"), QStringLiteral("EditFinished") };
-}
 
 inline QString valueChanged(float x, float y = 0, float z = 0, float w = 0)
 {
@@ -134,16 +122,6 @@ inline QString editFinished(float x, float y = 0, float z = 0, float w = 0)
 inline QStringList oneEdit(float x, float y = 0, float z = 0, float w = 0)
 {
     return { valueChanged(x, y, z, w), editFinished(x, y, z, w) };
-}
-
-// Component-wise comparison within eps, for values that went through 8-bit colour channels.
-inline bool nearlyEqual(const Vela::CVector4f &a, const Vela::CVector4f &b, float eps = 0.001f)
-{
-    for (int i = 0; i < 4; ++i) {
-        if (!(std::fabs(a[i] - b[i]) <= eps))
-            return false;
-    }
-    return true;
 }
 
 } // namespace NumericalTest

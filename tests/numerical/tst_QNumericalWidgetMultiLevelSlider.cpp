@@ -4,8 +4,6 @@
 #include "VelaTest.h"
 
 #include <QLabel>
-#include <QLayout>
-#include <QMouseEvent>
 
 using namespace NumericalTest;
 
@@ -21,10 +19,7 @@ class tst_QNumericalWidgetMultiLevelSlider : public QObject
 
 private slots:
     void init();
-    void cleanup();
 
-    void constructionBuildsNothing();
-    void threeLevels();
     void levelRoundTrip_data();
     void levelRoundTrip();
     void fallingValuesMayPass_data();
@@ -33,12 +28,13 @@ private slots:
     void middleFollowsDraggedEnd();
     void pushedValuesAreClampedAndSilent();
     void setDescClampsAgainstOldRange();
-    void decimalsAndCaptionDoNothing();
-    void nonNumericType();
 
 private:
-    QNumericalWidgetMultiLevelSlider *build(int type, const Lu::CDynamicWidgetDescBase &desc);
-    QLabel *caption() const;
+    bool build(int type, const Lu::CDynamicWidgetDescBase &desc);
+    QLabel *caption() const
+    {
+        return m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+    }
     // Presses on the indicator drawn at `level` of a 0 to 10000 range, drags it to the track
     // position of `toLevel` and releases it.
     void drag(int level, int toLevel, bool upperMiddle);
@@ -51,26 +47,13 @@ void tst_QNumericalWidgetMultiLevelSlider::init()
     m_widget.reset(new QNumericalWidgetMultiLevelSlider);
 }
 
-void tst_QNumericalWidgetMultiLevelSlider::cleanup()
-{
-    m_widget.reset();
-}
-
-QNumericalWidgetMultiLevelSlider *
-tst_QNumericalWidgetMultiLevelSlider::build(int type, const Lu::CDynamicWidgetDescBase &desc)
+bool tst_QNumericalWidgetMultiLevelSlider::build(int type, const Lu::CDynamicWidgetDescBase &desc)
 {
     if (m_widget->Initialize(variable(type), desc).failed())
-        return nullptr;
+        return false;
     m_widget->setFixedWidth(kWidth);
     m_widget->show();
-    if (!QTest::qWaitForWindowExposed(m_widget.get()))
-        return nullptr;
-    return m_widget.get();
-}
-
-QLabel *tst_QNumericalWidgetMultiLevelSlider::caption() const
-{
-    return m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
+    return QTest::qWaitForWindowExposed(m_widget.get());
 }
 
 void tst_QNumericalWidgetMultiLevelSlider::drag(int level, int toLevel, bool upperMiddle)
@@ -87,44 +70,12 @@ void tst_QNumericalWidgetMultiLevelSlider::drag(int level, int toLevel, bool upp
     QTest::mouseRelease(slider, Qt::LeftButton, Qt::NoModifier, to);
 }
 
-void tst_QNumericalWidgetMultiLevelSlider::constructionBuildsNothing()
-{
-    // Nothing to update before Initialize.
-    QVERIFY(!m_widget->GetMultiLevelSlider());
-    m_widget->UpdateInputValue(Vela::CVector4f(1, 1, 1, 1));
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
-
-    using W = QNumericalWidgetMultiLevelSlider;
-    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Integer2), 2u);
-    QCOMPARE(W::SliderCount(Vela::DynamicVariable_Image), 0u);
-    QVERIFY(W::IsFloatType(Vela::DynamicVariable_Float4));
-    QVERIFY(!W::IsFloatType(Vela::DynamicVariable_Integer1));
-}
-
-void tst_QNumericalWidgetMultiLevelSlider::threeLevels()
-{
-    QVERIFY(build(2, description(L"Levels", 0.0f, 1.0f, { 0.2f, 0.5f, 0.8f })));
-    QMultiLevelSlider *slider = m_widget->GetMultiLevelSlider();
-    QVERIFY(slider);
-    QCOMPARE(slider->GetCount(), 3u);
-    QCOMPARE(slider->GetIndicatorValue(0), 2000);
-    QCOMPARE(slider->GetIndicatorValue(1), 5000);
-    QCOMPARE(slider->GetIndicatorValue(2), 8000);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.2f, 0.5f, 0.8f, 0));
-
-    QCOMPARE(m_widget->layout()->itemAt(0)->widget(), caption());
-    QCOMPARE(caption()->text(), QStringLiteral("Levels"));
-    QCOMPARE(m_widget->layout()->itemAt(1)->widget(), slider);
-}
-
 void tst_QNumericalWidgetMultiLevelSlider::levelRoundTrip_data()
 {
     QTest::addColumn<float>("value");
     QTest::addColumn<int>("level");
     QTest::addColumn<float>("readBack");
     QTest::newRow("truncated to four decimals") << 0.33335f << 3333 << 0.3333f;
-    QTest::newRow("maximum") << 1.0f << 10000 << 1.0f;
-    QTest::newRow("minimum") << -1.0f << -10000 << -1.0f;
     QTest::newRow("toward zero") << -0.00019f << -1 << -0.0001f;
 }
 
@@ -149,8 +100,8 @@ void tst_QNumericalWidgetMultiLevelSlider::fallingValuesMayPass_data()
     QTest::addColumn<Vela::CVector4f>("values");
     QTest::addColumn<unsigned int>("count");
     QTest::addColumn<Vela::CVector4f>("expected");
-    QTest::newRow("rising") << 1 << Vela::CVector4f(0.4f, 0.6f, 0, 0) << 2u
-                            << Vela::CVector4f(0.4f, 0.6f, 0, 0);
+    QTest::newRow("rising") << 2 << Vela::CVector4f(0.2f, 0.5f, 0.8f, 0) << 3u
+                            << Vela::CVector4f(0.2f, 0.5f, 0.8f, 0);
     // Falling first values turn free order on, so the slider accepts them as they are.
     QTest::newRow("falling") << 1 << Vela::CVector4f(0.6f, 0.4f, 0, 0) << 2u
                              << Vela::CVector4f(0.6f, 0.4f, 0, 0);
@@ -160,6 +111,7 @@ void tst_QNumericalWidgetMultiLevelSlider::fallingValuesMayPass_data()
     // Out of order past the first pair: refused as well.
     QTest::newRow("unordered four")
         << 3 << Vela::CVector4f(0.1f, 0.5f, 0.3f, 0.9f) << 0u << Vela::CVector4f();
+    QTest::newRow("no numbers") << 8 << Vela::CVector4f(1, 1, 1, 1) << 0u << Vela::CVector4f();
 }
 
 void tst_QNumericalWidgetMultiLevelSlider::fallingValuesMayPass()
@@ -172,8 +124,12 @@ void tst_QNumericalWidgetMultiLevelSlider::fallingValuesMayPass()
         build(type, description(L"Range", 0.0f, 1.0f, { values.x, values.y, values.z, values.w })));
     QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), count);
     QVERIFY(m_widget->GetValue() == expected);
-    // An empty slider takes pushed values without complaint.
+    // An empty slider takes pushed values and drags without complaint.
     m_widget->UpdateInputValue(Vela::CVector4f(0.1f, 0.2f, 0.3f, 0.4f));
+    EditLog log(m_widget.get());
+    if (count == 0)
+        drag(5000, 9000, false);
+    QVERIFY(count != 0 || log.entries.isEmpty());
 }
 
 void tst_QNumericalWidgetMultiLevelSlider::dragLevel()
@@ -217,16 +173,22 @@ void tst_QNumericalWidgetMultiLevelSlider::pushedValuesAreClampedAndSilent()
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0, 1, 0, 0));
     QVERIFY(!slider->signalsBlocked());
 
-    // A slider the host has blocked stays blocked.
-    slider->blockSignals(true);
     m_widget->UpdateInputValue(Vela::CVector4f(0.3f, 0.7f, 0, 0));
-    QVERIFY(slider->signalsBlocked());
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.3f, 0.7f, 0, 0));
+
+    // New decimals change nothing, and the caption resets nothing on a double-click.
+    m_widget->SetDecimals(0);
+    QTest::mouseDClick(caption(), Qt::LeftButton);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.3f, 0.7f, 0, 0));
     QVERIFY(log.entries.isEmpty());
 }
 
 void tst_QNumericalWidgetMultiLevelSlider::setDescClampsAgainstOldRange()
 {
+    // Nothing to update before Initialize.
+    m_widget->UpdateInputValue(Vela::CVector4f(1, 1, 1, 1));
+    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+
     QVERIFY(build(0, description(L"Level", 0.0f, 1.0f, { 0.5f })));
     QMultiLevelSlider *first = m_widget->GetMultiLevelSlider();
     m_widget->SetDesc(variable(0), description(L"Wider Level", 0.0f, 2.0f, { 1.5f }));
@@ -234,8 +196,6 @@ void tst_QNumericalWidgetMultiLevelSlider::setDescClampsAgainstOldRange()
     // The value is clamped before the range grows.
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.0f, 0, 0, 0));
     // The new range holds from now on.
-    m_widget->UpdateInputValue(Vela::CVector4f(1.5f, 0, 0, 0));
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1.5f, 0, 0, 0));
     m_widget->UpdateInputValue(Vela::CVector4f(3.0f, 0, 0, 0));
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(2.0f, 0, 0, 0));
     QCOMPARE(m_widget->GetMultiLevelSlider(), first);
@@ -245,33 +205,6 @@ void tst_QNumericalWidgetMultiLevelSlider::setDescClampsAgainstOldRange()
     QVERIFY(m_widget->GetMultiLevelSlider() != first);
     QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), 2u);
     QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.1f, 0.9f, 0, 0));
-    QCOMPARE(caption()->text(), QStringLiteral("Range"));
-}
-
-void tst_QNumericalWidgetMultiLevelSlider::decimalsAndCaptionDoNothing()
-{
-    QVERIFY(build(1, description(L"Range", 0.0f, 1.0f, { 0.25f, 0.75f })));
-    EditLog log(m_widget.get());
-    m_widget->SetDecimals(0);
-    m_widget->SetDecimals(7);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.25f, 0.75f, 0, 0));
-
-    // The caption is watched but a double-click on it resets nothing.
-    m_widget->UpdateInputValue(Vela::CVector4f(0.5f, 0.6f, 0, 0));
-    QTest::mouseDClick(caption(), Qt::LeftButton);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.5f, 0.6f, 0, 0));
-    QVERIFY(log.entries.isEmpty());
-}
-
-void tst_QNumericalWidgetMultiLevelSlider::nonNumericType()
-{
-    QVERIFY(build(8, description(L"Flag", 0.0f, 1.0f, { 1, 1, 1, 1 })));
-    QVERIFY(m_widget->GetMultiLevelSlider());
-    QCOMPARE(m_widget->GetMultiLevelSlider()->GetCount(), 0u);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
-    EditLog log(m_widget.get());
-    drag(5000, 9000, false);
-    QVERIFY(log.entries.isEmpty());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetMultiLevelSlider)
