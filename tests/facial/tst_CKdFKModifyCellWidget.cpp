@@ -123,8 +123,8 @@ void tst_CKdFKModifyCellWidget::sliderDragIsOneSession()
     const QPoint kStart = ComboEditorTest::handleRect(pkSlider).center();
     QTest::mousePress(pkSlider, Qt::LeftButton, Qt::NoModifier, kStart);
     QVERIFY(kCell.IsEditing());
-    ComboEditorTest::moveHeld(pkSlider, kStart + QPoint(pkSlider->width() / 4, 0));
-    ComboEditorTest::moveHeld(pkSlider, kStart + QPoint(pkSlider->width() / 2, 0));
+    VelaTest::mouseMove(pkSlider, kStart + QPoint(pkSlider->width() / 4, 0));
+    VelaTest::mouseMove(pkSlider, kStart + QPoint(pkSlider->width() / 2, 0));
     QTest::mouseRelease(pkSlider, Qt::LeftButton, Qt::NoModifier,
                         kStart + QPoint(pkSlider->width() / 2, 0));
 
