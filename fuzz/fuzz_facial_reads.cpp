@@ -54,8 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
                 const QString label = table.GetSectionModifyString(path, section, index, key);
                 cell.SetItem(row++, 0, label,
                              table.GetExtreme(path, QStringLiteral("SliderExtreme"), key),
-                             table.GetExtreme(path, QStringLiteral("SpinBoxExtreme"), key),
-                             &table);
+                             table.GetExtreme(path, QStringLiteral("SpinBoxExtreme"), key), &table);
                 // What the host reads back must stay inside the ranges just set.
                 if (cell.GetValue() < cell.GetSpinMinimum()
                     || cell.GetValue() > cell.GetSpinMaximum())
