@@ -1,6 +1,8 @@
 #include "FuzzSupport.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 
 #include <cmath>
 #include <limits>
@@ -79,6 +81,21 @@ RunScope::~RunScope()
 {
     QApplication::processEvents();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+RunFile::RunFile(const std::uint8_t *data, std::size_t size)
+{
+    static QTemporaryDir dir;
+    static int run = 0;
+    m_path = dir.filePath(QStringLiteral("input%1").arg(run++));
+    QFile file(m_path);
+    m_written = file.open(QIODevice::WriteOnly)
+        && file.write(reinterpret_cast<const char *>(data), qint64(size)) == qint64(size);
+}
+
+RunFile::~RunFile()
+{
+    QFile::remove(m_path);
 }
 
 } // namespace VelaFuzz

@@ -50,6 +50,24 @@ public:
     RunScope &operator=(const RunScope &) = delete;
 };
 
+// The run's bytes as a file, removed again at the end of the run. Every run writes a file of a
+// new name: QSettings caches what it read per path.
+class RunFile
+{
+public:
+    RunFile(const std::uint8_t *data, std::size_t size);
+    ~RunFile();
+    RunFile(const RunFile &) = delete;
+    RunFile &operator=(const RunFile &) = delete;
+
+    bool isWritten() const { return m_written; }
+    const QString &path() const { return m_path; }
+
+private:
+    QString m_path;
+    bool m_written = false;
+};
+
 } // namespace VelaFuzz
 
 #endif // FUZZSUPPORT_H

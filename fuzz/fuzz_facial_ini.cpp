@@ -5,24 +5,16 @@
 #include "QKdFKModifyTableManager.h"
 
 #include <QApplication>
-#include <QFile>
-#include <QTemporaryDir>
 
 using namespace VelaFuzz;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const RunScope scope;
-    static QTemporaryDir dir;
-    // A new name every run: QSettings caches what it read per path.
-    static int run = 0;
-    const QString path = dir.filePath(QStringLiteral("keys%1.ini").arg(run++));
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
-            return 0;
-        file.write(reinterpret_cast<const char *>(data), qint64(size));
-    }
+    const RunFile file(data, size);
+    if (!file.isWritten())
+        return 0;
+    const QString &path = file.path();
     {
         QKdFKModifyTableManager table;
         table.InitManager(path);
@@ -35,6 +27,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         if (qobject_cast<CKdFKModifyCellWidget *>(widget))
             delete widget;
     }
-    QFile::remove(path);
     return 0;
 }

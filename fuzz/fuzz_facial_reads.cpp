@@ -7,9 +7,6 @@
 #include "CKdFKModifyCellWidget.h"
 #include "QKdFKModifyTableManager.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include <iterator>
 
 using namespace VelaFuzz;
@@ -34,16 +31,10 @@ const int kSectionChannels[] = { 8, 7, 10, 39, 64, 4 };
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     const RunScope scope;
-    static QTemporaryDir dir;
-    // A new name every run: QSettings caches what it read per path.
-    static int run = 0;
-    const QString path = dir.filePath(QStringLiteral("keys%1.ini").arg(run++));
-    {
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
-            return 0;
-        file.write(reinterpret_cast<const char *>(data), qint64(size));
-    }
+    const RunFile file(data, size);
+    if (!file.isWritten())
+        return 0;
+    const QString &path = file.path();
     {
         ReadingTable table;
         CKdFKModifyCellWidget cell(nullptr);
@@ -62,6 +53,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             }
         }
     }
-    QFile::remove(path);
     return 0;
 }
