@@ -5,12 +5,10 @@
 // widget's signals in the order they arrived and the window the widget is shown in.
 
 #include "QNumericalWidgetBase.h"
+#include "VelaTest.h"
 
+#include <QLabel>
 #include <QLineEdit>
-#include <QList>
-#include <QObject>
-#include <QString>
-#include <QStringList>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -19,16 +17,23 @@
 
 namespace NumericalTest {
 
-inline Lu::CDynamicWidgetVariableBase variable(int type)
+inline QString toText(const Vela::CVector4f &v)
+{
+    return QStringLiteral("(%1, %2, %3, %4)").arg(v.x).arg(v.y).arg(v.z).arg(v.w);
+}
+
+inline Lu::CDynamicWidgetVariableBase variable(int type, const Vela::CVector4f &value = {})
 {
     Lu::CDynamicWidgetVariableBase var;
     var.eType = static_cast<Vela::EDynamicWidgetVariableType>(type);
+    var.vValue = value;
     return var;
 }
 
 // A description with the same range for every component and these values.
-inline Lu::CDynamicWidgetDescBase description(const wchar_t *name, float minimum, float maximum,
-                                              std::initializer_list<float> values)
+inline Lu::CDynamicWidgetDescBase description(const wchar_t *name, float minimum = 0.0f,
+                                              float maximum = 1.0f,
+                                              std::initializer_list<float> values = {})
 {
     Lu::CDynamicWidgetDescBase desc;
     desc.strName = name;
@@ -42,9 +47,20 @@ inline Lu::CDynamicWidgetDescBase description(const wchar_t *name, float minimum
     return desc;
 }
 
-inline QString toText(const Vela::CVector4f &v)
+inline QString valueChanged(float x, float y = 0, float z = 0, float w = 0)
 {
-    return QStringLiteral("(%1, %2, %3, %4)").arg(v.x).arg(v.y).arg(v.z).arg(v.w);
+    return QStringLiteral("ValueChanged") + toText(Vela::CVector4f(x, y, z, w));
+}
+
+inline QString editFinished(float x, float y = 0, float z = 0, float w = 0)
+{
+    return QStringLiteral("EditFinished") + toText(Vela::CVector4f(x, y, z, w));
+}
+
+// The entries of one user edit ending at this value.
+inline QStringList oneEdit(float x, float y = 0, float z = 0, float w = 0)
+{
+    return { valueChanged(x, y, z, w), editFinished(x, y, z, w) };
 }
 
 // Records every signal of a numerical widget in the order raised, with the packed value of
@@ -55,24 +71,18 @@ public:
     explicit EditLog(QNumericalWidgetBase *widget)
     {
         connect(widget, &QNumericalWidgetBase::ValueChanged, this,
-                [this](Vela::CVector4f v) { add(QStringLiteral("ValueChanged"), &v); });
+                [this](Vela::CVector4f v) { entries << valueChanged(v.x, v.y, v.z, v.w); });
         connect(widget, &QNumericalWidgetBase::EditFinished, this,
-                [this](Vela::CVector4f v) { add(QStringLiteral("EditFinished"), &v); });
+                [this](Vela::CVector4f v) { entries << editFinished(v.x, v.y, v.z, v.w); });
         connect(widget, &QNumericalWidgetBase::Clicked, this,
-                [this]() { add(QStringLiteral("Clicked")); });
+                [this]() { entries << QStringLiteral("Clicked"); });
         connect(widget, &QNumericalWidgetBase::ClickedButton, this,
-                [this](int n) { add(QStringLiteral("ClickedButton %1").arg(n)); });
+                [this](int n) { entries << QStringLiteral("ClickedButton %1").arg(n); });
     }
 
     void clear() { entries.clear(); }
 
     QStringList entries;
-
-private:
-    void add(const QString &name, const Vela::CVector4f *value = nullptr)
-    {
-        entries << (value ? name + toText(*value) : name);
-    }
 };
 
 // The window a widget is tested in: a line edit above it holds the focus, as when the user has
@@ -99,41 +109,26 @@ public:
     }
 
     // Builds the widget from the records, then shows the window.
-    bool build(QNumericalWidgetBase *widget, int type, const Lu::CDynamicWidgetDescBase &desc)
+    bool build(QNumericalWidgetBase *widget, const Lu::CDynamicWidgetVariableBase &var,
+               const Lu::CDynamicWidgetDescBase &desc)
     {
-        return widget->Initialize(variable(type), desc).succeeded() && show();
+        return widget->Initialize(var, desc).code() == 0u && show();
     }
 
     std::unique_ptr<QWidget> window;
     QLineEdit *other;
 };
 
-inline QString valueChanged(float x, float y = 0, float z = 0, float w = 0)
-{
-    return QStringLiteral("ValueChanged") + toText(Vela::CVector4f(x, y, z, w));
-}
-
-inline QString editFinished(float x, float y = 0, float z = 0, float w = 0)
-{
-    return QStringLiteral("EditFinished") + toText(Vela::CVector4f(x, y, z, w));
-}
-
-// The entries of one user edit ending at this value.
-inline QStringList oneEdit(float x, float y = 0, float z = 0, float w = 0)
-{
-    return { valueChanged(x, y, z, w), editFinished(x, y, z, w) };
-}
-
 } // namespace NumericalTest
 
-// QCOMPARE for packed values, printing both on failure.
-#define NUMERICAL_COMPARE_VECTOR(actual, expected)                                                 \
-    do {                                                                                           \
-        const Vela::CVector4f vActual_ = (actual);                                                 \
-        const Vela::CVector4f vExpected_ = (expected);                                             \
-        QVERIFY2(vActual_ == vExpected_,                                                           \
-                 qPrintable(NumericalTest::toText(vActual_) + QStringLiteral(" != ")               \
-                            + NumericalTest::toText(vExpected_)));                                 \
-    } while (false)
+namespace Vela {
+
+// Lets QCOMPARE print packed values.
+inline char *toString(const CVector4f &v)
+{
+    return qstrdup(qPrintable(NumericalTest::toText(v)));
+}
+
+} // namespace Vela
 
 #endif // NUMERICALTESTSUPPORT_H

@@ -1,10 +1,9 @@
-#include "QNumericalWidgetBase.h"
-#include "VelaTest.h"
+#include "NumericalTestSupport.h"
 
 #include <QDoubleSpinBox>
-#include <QLayout>
 #include <QSignalSpy>
-#include <QtTest>
+
+using namespace NumericalTest;
 
 // The smallest concrete numerical widget: one plain spin box per numeric component. Its spin
 // boxes raise their own signals when set, so SetValue and UpdateInputValue can be told apart.
@@ -50,9 +49,7 @@ protected:
 static SpinNumericalWidget *makeWidget(Vela::EDynamicWidgetVariableType eType)
 {
     auto *widget = new SpinNumericalWidget;
-    Lu::CDynamicWidgetVariableBase var;
-    var.eType = eType;
-    widget->Initialize(var, Lu::CDynamicWidgetDescBase());
+    widget->Initialize(variable(eType), Lu::CDynamicWidgetDescBase());
     return widget;
 }
 
@@ -74,31 +71,25 @@ void tst_QNumericalWidgetBase::vectorComponents()
     QCOMPARE(v[4], 0.0f);
     v.Set(4, 7.0f);
     v.Set(-1, 7.0f);
-    QVERIFY(v == Vela::CVector4f(1.5f, -2.0f, 9.0f, 4.0f));
+    QCOMPARE(v, Vela::CVector4f(1.5f, -2.0f, 9.0f, 4.0f));
 }
 
 void tst_QNumericalWidgetBase::initialize()
 {
-    Lu::CDynamicWidgetVariableBase var;
-    var.eType = Vela::DynamicVariable_Float4;
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = QString::fromUtf8("Färbung 色").toStdWString();
+    Lu::CDynamicWidgetDescBase desc = description(L"F\u00e4rbung \u8272", 0, 1, { 0.5f, 0, 0, 4 });
     desc.eBehaviorType = Vela::DynamicBehavior_UnitSlider;
     desc.bTriggerBake = true;
-    desc.afValue[0] = 0.5f;
-    desc.afValue[3] = 4.0f;
     SpinNumericalWidget widget;
-    QCOMPARE(widget.Initialize(var, desc).code(), 0u);
+    QCOMPARE(widget.Initialize(variable(Vela::DynamicVariable_Float4), desc).code(), 0u);
     QCOMPARE(widget.GetInputType(), Vela::DynamicVariable_Float4);
     QCOMPARE(widget.GetWidgetType(), Vela::DynamicBehavior_UnitSlider);
     QCOMPARE(widget.GetName(), QString::fromUtf8("Färbung 色"));
     QVERIFY(widget.IsTriggerBake());
-    QVERIFY(widget.GetValue() == Vela::CVector4f(0.5f, 0.0f, 0.0f, 4.0f));
+    QCOMPARE(widget.GetValue(), Vela::CVector4f(0.5f, 0.0f, 0.0f, 4.0f));
 
     // Re-describing copies the fields again without building anything.
-    var.eType = Vela::DynamicVariable_Integer1;
     desc.strName = L"After";
-    widget.SetDesc(var, desc);
+    widget.SetDesc(variable(Vela::DynamicVariable_Integer1), desc);
     QCOMPARE(widget.GetName(), QStringLiteral("After"));
     QCOMPARE(widget.GetInputType(), Vela::DynamicVariable_Integer1);
     QCOMPARE(widget.createUiCalls, 1);
@@ -110,16 +101,15 @@ void tst_QNumericalWidgetBase::pushedValues()
     QSignalSpy changed(widget.data(), &QNumericalWidgetBase::ValueChanged);
     widget->UpdateInputValue(Vela::CVector4f(1.5f, 2.5f, 3.5f, 9.0f));
     QCOMPARE(changed.count(), 0);
-    QVERIFY(widget->GetValue() == Vela::CVector4f(1.5f, 2.5f, 3.5f, 0.0f));
+    QCOMPARE(widget->GetValue(), Vela::CVector4f(1.5f, 2.5f, 3.5f, 0.0f));
     QVERIFY(!widget->signalsBlocked());
 
     // SetValue passes the editors' reports on; hosts connect by the type's name as well.
     QSignalSpy byName(widget.data(), SIGNAL(ValueChanged(Vela::CVector4f)));
     QVERIFY(byName.isValid());
     widget->SetValue(Vela::CVector4f(1.0f, 2.5f, 3.5f, 0.0f));
-    QCOMPARE(changed.count(), 1);
     QCOMPARE(byName.count(), 1);
-    QVERIFY(byName.at(0).at(0).value<Vela::CVector4f>() == Vela::CVector4f(1, 2.5f, 3.5f, 0));
+    QCOMPARE(byName.at(0).at(0).value<Vela::CVector4f>(), Vela::CVector4f(1, 2.5f, 3.5f, 0));
 
     // The flag alone shows and hides nothing; the update hides.
     widget.reset(makeWidget(Vela::DynamicVariable_Float1));

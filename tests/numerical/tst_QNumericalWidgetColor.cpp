@@ -2,13 +2,10 @@
 #include "NumericalTestSupport.h"
 #include "QColorButton.h"
 #include "QNumericalWidgetColor.h"
-#include "VelaTest.h"
-
-#include <QLabel>
 
 #include <limits>
 
-using NumericalTest::EditLog;
+using namespace NumericalTest;
 
 class tst_QNumericalWidgetColor : public QObject
 {
@@ -30,33 +27,26 @@ private:
         ColorTest::runButtonSession(m_button, m_button->ColorDialogUi(), action);
     }
 
-    std::unique_ptr<NumericalTest::Panel> m_panel;
+    std::unique_ptr<Panel> m_panel;
     QNumericalWidgetColor *m_widget = nullptr;
     QColorButton *m_button = nullptr;
 };
 
 void tst_QNumericalWidgetColor::init()
 {
-    m_widget = new QNumericalWidgetColor;
-    m_panel.reset(new NumericalTest::Panel(m_widget));
-
-    Lu::CDynamicWidgetVariableBase var;
-    var.eType = Vela::DynamicVariable_Float4;
-    var.vValue = Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Base Color";
-    desc.eBehaviorType = Vela::DynamicBehavior_Color;
-    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    m_panel.reset(new Panel(m_widget = new QNumericalWidgetColor));
+    QVERIFY(m_panel->build(m_widget,
+                           variable(Vela::DynamicVariable_Float4, { 0.5f, 0.25f, 1.0f, 0.3f }),
+                           description(L"Base Color")));
     m_button = m_widget->findChild<QColorButton *>();
     QVERIFY(m_button);
-    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColor::construction()
 {
     QNumericalWidgetColor widget;
     // No button yet: black, opaque; re-describing only copies the fields.
-    NUMERICAL_COMPARE_VECTOR(widget.GetValue(), Vela::CVector4f(0, 0, 0, 1));
+    QCOMPARE(widget.GetValue(), Vela::CVector4f(0, 0, 0, 1));
     widget.SetDesc(Lu::CDynamicWidgetVariableBase(), Lu::CDynamicWidgetDescBase());
     QVERIFY(widget.children().isEmpty());
 }
@@ -83,7 +73,7 @@ void tst_QNumericalWidgetColor::valueRoundTrip()
     QFETCH(Vela::CVector4f, readBack);
     m_widget->UpdateInputValue(value);
     QCOMPARE(m_button->GetColor(), color);
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), readBack);
+    QCOMPARE(m_widget->GetValue(), readBack);
 }
 
 void tst_QNumericalWidgetColor::dialogSessions()
@@ -99,10 +89,8 @@ void tst_QNumericalWidgetColor::dialogSessions()
         dialog->reject();
     });
     // The live change and its reversal are both edits of their own.
-    QCOMPARE(log.entries,
-             NumericalTest::oneEdit(1, 0, 0, 1)
-                 + NumericalTest::oneEdit(before.x, before.y, before.z, before.w));
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), before);
+    QCOMPARE(log.entries, oneEdit(1, 0, 0, 1) + oneEdit(before.x, before.y, before.z, before.w));
+    QCOMPARE(m_widget->GetValue(), before);
     QCOMPARE(calls, (QStringList { "begin", "end", "reverted" }));
 
     // Cancelled without a change: nothing to report.
@@ -116,10 +104,10 @@ void tst_QNumericalWidgetColor::dialogSessions()
         QCOMPARE(dialog->currentColor(), QColor(127, 63, 255));
         dialog->setCurrentColor(QColor(0, 255, 51));
         // The widget follows the dialog live.
-        QCOMPARE(log.entries, NumericalTest::oneEdit(0, 1, 0.2f, 1));
+        QCOMPARE(log.entries, oneEdit(0, 1, 0.2f, 1));
         dialog->accept();
     });
-    QCOMPARE(log.entries, NumericalTest::oneEdit(0, 1, 0.2f, 1));
+    QCOMPARE(log.entries, oneEdit(0, 1, 0.2f, 1));
     QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 }
 
@@ -131,13 +119,9 @@ void tst_QNumericalWidgetColor::pushesAreSilent()
     QVERIFY(log.entries.isEmpty());
 
     // Re-describing takes the new value, also silently, and drops the colon.
-    Lu::CDynamicWidgetVariableBase var;
-    var.vValue = Vela::CVector4f(0, 1, 0, 1);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Tint";
     auto *label = m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(label->text(), QStringLiteral("Base Color :"));
-    m_widget->SetDesc(var, desc);
+    m_widget->SetDesc(variable(0, { 0, 1, 0, 1 }), description(L"Tint"));
     QCOMPARE(label->text(), QStringLiteral("Tint"));
     QCOMPARE(m_button->GetColor(), QColor(Qt::green));
     QVERIFY(log.entries.isEmpty());

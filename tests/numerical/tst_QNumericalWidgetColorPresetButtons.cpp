@@ -1,11 +1,9 @@
 #include "NumericalTestSupport.h"
 #include "QNumericalWidgetColorPresetButtons.h"
-#include "VelaTest.h"
 
-#include <QLabel>
 #include <QToolButton>
 
-using NumericalTest::EditLog;
+using namespace NumericalTest;
 
 class tst_QNumericalWidgetColorPresetButtons : public QObject
 {
@@ -19,27 +17,20 @@ private slots:
     void pushesChangeNothing();
 
 private:
-    std::unique_ptr<NumericalTest::Panel> m_panel;
+    std::unique_ptr<Panel> m_panel;
     QNumericalWidgetColorPresetButtons *m_widget = nullptr;
     QList<QToolButton *> m_swatches;
 };
 
 void tst_QNumericalWidgetColorPresetButtons::init()
 {
-    m_widget = new QNumericalWidgetColorPresetButtons;
-    m_panel.reset(new NumericalTest::Panel(m_widget));
-    Lu::CDynamicWidgetVariableBase var;
-    var.vValue = Vela::CVector4f(2, 2, 2, 2);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Skin";
-    desc.eBehaviorType = Vela::DynamicBehavior_ColorPresetButtons;
-    desc.afValue[0] = 3.0f;
-    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    m_panel.reset(new Panel(m_widget = new QNumericalWidgetColorPresetButtons));
+    // Nothing is read from the records: no swatch is chosen yet.
+    QVERIFY(
+        m_panel->build(m_widget, variable(0, { 2, 2, 2, 2 }), description(L"Skin", 0, 4, { 3 })));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f());
     m_swatches = m_widget->findChildren<QToolButton *>(QString(), Qt::FindDirectChildrenOnly);
     QCOMPARE(m_swatches.size(), 4);
-    QVERIFY(m_panel->show());
-    // Nothing is read from the records: no swatch is chosen yet.
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f());
 }
 
 void tst_QNumericalWidgetColorPresetButtons::click_data()
@@ -67,7 +58,7 @@ void tst_QNumericalWidgetColorPresetButtons::click()
     const QString report = QStringLiteral("ClickedButton %1").arg(preset);
     QCOMPARE(log.entries, (QStringList { report, report }));
     const float f = float(preset);
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(f, f, f, f));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(f, f, f, f));
 }
 
 void tst_QNumericalWidgetColorPresetButtons::pushesChangeNothing()
@@ -76,12 +67,10 @@ void tst_QNumericalWidgetColorPresetButtons::pushesChangeNothing()
     EditLog log(m_widget);
     m_widget->SetValue(Vela::CVector4f(1, 1, 1, 1));
     m_widget->UpdateInputValue(Vela::CVector4f(4, 4, 4, 4));
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 3, 3, 3));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(3, 3, 3, 3));
 
     // Re-describing renames the caption only.
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Eyes";
-    m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
+    m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(), description(L"Eyes"));
     QCOMPARE(m_widget->findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text(),
              QStringLiteral("Eyes"));
     QCOMPARE(m_widget->findChildren<QToolButton *>().size(), 4);

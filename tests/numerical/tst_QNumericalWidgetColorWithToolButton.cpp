@@ -2,12 +2,10 @@
 #include "NumericalTestSupport.h"
 #include "QColorButton.h"
 #include "QNumericalWidgetColorWithToolButton.h"
-#include "VelaTest.h"
 
-#include <QLabel>
 #include <QToolButton>
 
-using NumericalTest::EditLog;
+using namespace NumericalTest;
 
 namespace {
 
@@ -21,14 +19,6 @@ QToolButton *actionButton(QWidget *widget)
             return button;
     }
     return nullptr;
-}
-
-Lu::CDynamicWidgetDescBase describe(const QString &name)
-{
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = name.toStdWString();
-    desc.eBehaviorType = Vela::DynamicBehavior_ColorWithToolButton;
-    return desc;
 }
 
 } // namespace
@@ -45,7 +35,7 @@ private slots:
     void session();
 
 private:
-    std::unique_ptr<NumericalTest::Panel> m_panel;
+    std::unique_ptr<Panel> m_panel;
     QNumericalWidgetColorWithToolButton *m_widget = nullptr;
     QColorButton *m_button = nullptr;
     QToolButton *m_action = nullptr;
@@ -53,16 +43,13 @@ private:
 
 void tst_QNumericalWidgetColorWithToolButton::init()
 {
-    m_widget = new QNumericalWidgetColorWithToolButton;
-    m_panel.reset(new NumericalTest::Panel(m_widget));
-    Lu::CDynamicWidgetVariableBase var;
-    var.vValue = Vela::CVector4f(0.5f, 0.25f, 1.0f, 0.3f);
-    QCOMPARE(m_widget->Initialize(var, describe(QStringLiteral("Base_Fill"))).code(), 0u);
+    m_panel.reset(new Panel(m_widget = new QNumericalWidgetColorWithToolButton));
+    QVERIFY(m_panel->build(m_widget, variable(0, { 0.5f, 0.25f, 1.0f, 0.3f }),
+                           description(L"Base_Fill")));
     m_button = m_widget->findChild<QColorButton *>();
     m_action = actionButton(m_widget);
     QVERIFY(m_button);
     QVERIFY(m_action);
-    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetColorWithToolButton::splitName_data()
@@ -87,13 +74,14 @@ void tst_QNumericalWidgetColorWithToolButton::splitName()
     QFETCH(QString, buttonText);
 
     QNumericalWidgetColorWithToolButton widget;
-    widget.Initialize(Lu::CDynamicWidgetVariableBase(), describe(name));
+    const Lu::CDynamicWidgetDescBase desc = description(name.toStdWString().c_str());
+    widget.Initialize(Lu::CDynamicWidgetVariableBase(), desc);
     QCOMPARE(widget.findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text(),
              caption + QStringLiteral(" :"));
     QCOMPARE(actionButton(&widget)->text(), buttonText);
 
     // Re-describing shows the same split, without the colon.
-    widget.SetDesc(Lu::CDynamicWidgetVariableBase(), describe(name));
+    widget.SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
     QCOMPARE(widget.findChild<QLabel *>(QString(), Qt::FindDirectChildrenOnly)->text(), caption);
     QCOMPARE(actionButton(&widget)->text(), buttonText);
 }
@@ -113,16 +101,14 @@ void tst_QNumericalWidgetColorWithToolButton::session()
         dialog->setCurrentColor(QColor(255, 0, 0));
         dialog->accept();
     });
-    QCOMPARE(log.entries, NumericalTest::oneEdit(1, 0, 0, 1));
+    QCOMPARE(log.entries, oneEdit(1, 0, 0, 1));
     QCOMPARE(calls, (QStringList { "begin", "end", "accepted" }));
 
     // Pushed and re-described values are shown silently.
     log.clear();
     m_widget->SetValue(Vela::CVector4f(1, 1, 0, 0));
     QCOMPARE(m_button->GetColor(), QColor(Qt::yellow));
-    Lu::CDynamicWidgetVariableBase var;
-    var.vValue = Vela::CVector4f(0, 0, 1, 1);
-    m_widget->SetDesc(var, describe(QStringLiteral("Hair_Randomize")));
+    m_widget->SetDesc(variable(0, { 0, 0, 1, 1 }), description(L"Hair_Randomize"));
     QCOMPARE(m_button->GetColor(), QColor(Qt::blue));
     QVERIFY(log.entries.isEmpty());
 }

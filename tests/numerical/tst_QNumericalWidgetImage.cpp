@@ -1,16 +1,14 @@
+#include "NumericalTestSupport.h"
 #include "QNumericalWidgetImage.h"
 #include "VelaImageLoader.h"
-#include "VelaTest.h"
 
-#include <QLabel>
-#include <QMimeData>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolButton>
-#include <QUrl>
-#include <QtTest>
 
 using Image = QNumericalWidgetImage;
+using NumericalTest::description;
+using NumericalTest::variable;
 
 static const char *const kButtonNames[] = { "qtLoadPushButton",   "qtSavePushButton",
                                             "qtLaunchPushButton", "qtResetPushButton",
@@ -34,12 +32,7 @@ private slots:
 private:
     void initialize(const wchar_t *name)
     {
-        Lu::CDynamicWidgetVariableBase var;
-        var.eType = Vela::DynamicVariable_Image;
-        Lu::CDynamicWidgetDescBase desc;
-        desc.strName = name;
-        desc.eBehaviorType = Vela::DynamicBehavior_Image;
-        m_w->Initialize(var, desc);
+        m_w->Initialize(variable(Vela::DynamicVariable_Image), description(name));
     }
     QToolButton *button(int i) const
     {

@@ -1,11 +1,8 @@
 #include "NumericalTestSupport.h"
 #include "QComboBoxEx.h"
 #include "QNumericalWidgetOutputSize.h"
-#include "VelaTest.h"
 
-#include <QLabel>
-
-using NumericalTest::EditLog;
+using namespace NumericalTest;
 
 class tst_QNumericalWidgetOutputSize : public QObject
 {
@@ -16,33 +13,26 @@ private slots:
 
     void pushValue_data();
     void pushValue();
-    void chooseWithKeyboard();
     void setDescKeepsEntries();
 
 private:
-    std::unique_ptr<NumericalTest::Panel> m_panel;
+    std::unique_ptr<Panel> m_panel;
     QNumericalWidgetOutputSize *m_widget = nullptr;
     QComboBoxEx *m_combo = nullptr;
 };
 
 void tst_QNumericalWidgetOutputSize::init()
 {
-    m_widget = new QNumericalWidgetOutputSize;
-    m_panel.reset(new NumericalTest::Panel(m_widget));
+    m_panel.reset(new Panel(m_widget = new QNumericalWidgetOutputSize));
     EditLog log(m_widget);
-    Lu::CDynamicWidgetVariableBase var;
-    var.eType = Vela::DynamicVariable_Integer2;
-    var.vValue = Vela::CVector4f(10, 10, 0, 0);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"$outputsize";
-    desc.eBehaviorType = Vela::DynamicBehavior_OutputSize;
     // Choices and ranges of the description are not read.
+    Lu::CDynamicWidgetDescBase desc = description(L"$outputsize", -5.0f, 50.0f);
     desc.mapLabels = { { 1, "Ignored" } };
-    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    QVERIFY(
+        m_panel->build(m_widget, variable(Vela::DynamicVariable_Integer2, { 10, 10, 0, 0 }), desc));
     QVERIFY(log.entries.isEmpty());
     m_combo = m_widget->findChild<QComboBoxEx *>();
     QVERIFY(m_combo);
-    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetOutputSize::pushValue_data()
@@ -65,18 +55,8 @@ void tst_QNumericalWidgetOutputSize::pushValue()
     EditLog log(m_widget);
     m_widget->SetValue(value);
     QCOMPARE(m_combo->currentText(), text);
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), reported);
+    QCOMPARE(m_widget->GetValue(), reported);
     QVERIFY(log.entries.isEmpty());
-}
-
-void tst_QNumericalWidgetOutputSize::chooseWithKeyboard()
-{
-    m_combo->setFocus();
-    QTRY_VERIFY(m_combo->hasFocus());
-    EditLog log(m_widget);
-    QTest::keyClick(m_combo, Qt::Key_End);
-    QCOMPARE(m_combo->currentText(), QStringLiteral("4096x4096"));
-    QCOMPARE(log.entries, NumericalTest::oneEdit(12, 12));
 }
 
 void tst_QNumericalWidgetOutputSize::setDescKeepsEntries()
@@ -87,12 +67,11 @@ void tst_QNumericalWidgetOutputSize::setDescKeepsEntries()
     QCOMPARE(m_combo->count(), 10);
     // The first entry is current until the host pushes a value.
     QCOMPARE(m_combo->currentText(), QStringLiteral("8x8"));
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 3, 0, 0));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(3, 3, 0, 0));
 
     m_widget->SetValue(Vela::CVector4f(9, 9, 0, 0));
     EditLog log(m_widget);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Resolution";
+    Lu::CDynamicWidgetDescBase desc = description(L"Resolution");
     desc.mapLabels = { { 1, "A" }, { 2, "B" } };
     desc.bTriggerBake = true;
     m_widget->SetDesc(Lu::CDynamicWidgetVariableBase(), desc);
@@ -100,6 +79,13 @@ void tst_QNumericalWidgetOutputSize::setDescKeepsEntries()
     QCOMPARE(m_combo->currentText(), QStringLiteral("512x512"));
     QCOMPARE(label->text(), QStringLiteral("Output Size :"));
     QVERIFY(log.entries.isEmpty());
+
+    // The user chooses from the same list.
+    m_combo->setFocus();
+    QTRY_VERIFY(m_combo->hasFocus());
+    QTest::keyClick(m_combo, Qt::Key_End);
+    QCOMPARE(m_combo->currentText(), QStringLiteral("4096x4096"));
+    QCOMPARE(log.entries, oneEdit(12, 12));
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetOutputSize)

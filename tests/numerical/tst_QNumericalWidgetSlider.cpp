@@ -3,9 +3,7 @@
 #include "QComboDoubleSpinBox.h"
 #include "QGroupWidget.h"
 #include "QNumericalWidgetSlider.h"
-#include "VelaTest.h"
 
-#include <QLabel>
 #include <QPushButton>
 
 using namespace NumericalTest;
@@ -20,11 +18,9 @@ private slots:
     void scales_data();
     void scales();
     void independentSpin();
-    void componentLabels();
-    void dragSliderInGroup();
+    void twoComponentsInGroup();
     void labelDoubleClick_data();
     void labelDoubleClick();
-    void pushedValuesAndDecimals();
     void nonNumericType();
     void setDesc();
     void destroyWhileTyping();
@@ -32,7 +28,7 @@ private slots:
 private:
     bool build(int type, const Lu::CDynamicWidgetDescBase &d)
     {
-        return m_panel->build(m_widget, type, d);
+        return m_panel->build(m_widget, variable(type), d);
     }
     QComboDoubleSpinBox *editor(int i = 0) const { return m_widget->GetComboSpins().at(i); }
     QLabel *caption() const { return m_widget->findChild<QLabel *>(QString(), direct); }
@@ -45,8 +41,7 @@ private:
 
 void tst_QNumericalWidgetSlider::init()
 {
-    m_widget = new QNumericalWidgetSlider;
-    m_panel.reset(new Panel(m_widget));
+    m_panel.reset(new Panel(m_widget = new QNumericalWidgetSlider));
     m_panel->window->resize(700, 300);
 }
 
@@ -89,10 +84,16 @@ void tst_QNumericalWidgetSlider::scales()
     Lu::CDynamicWidgetDescBase desc = description(L"Amount", minimum, maximum, { 2, 3, 4, 5 });
     desc.uDecimals = static_cast<std::uint8_t>(descDecimals);
     desc.eBehaviorType = static_cast<Vela::EDynamicWidgetBehaviorType>(behavior);
+    desc.mapLabels[1] = "H\xc3\xb6he";
     QVERIFY(build(type, desc));
-    QCOMPARE(unsigned(m_widget->GetComboSpins().size()),
+    const QList<QComboDoubleSpinBox *> editors = m_widget->GetComboSpins();
+    QCOMPARE(unsigned(editors.size()),
              QNumericalWidgetSlider::SliderCount(Vela::EDynamicWidgetVariableType(type)));
-    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins()) {
+    for (QComboDoubleSpinBox *editor : editors) {
+        // Component captions only in a group: index 0 is below the label count and added empty,
+        // so index 1 still finds its UTF-8 text.
+        const bool captioned = editors.size() > 1 && editor == editors.at(1);
+        QCOMPARE(editor->text(), captioned ? QString::fromUtf8("H\xc3\xb6he") : QString());
         QCOMPARE(editor->Decimals(), decimals);
         QCOMPARE(editor->Maximum(), editorMaximum);
         QCOMPARE(editor->UI()->qtHorizontalSlider->maximum(), sliderMaximum);
@@ -120,19 +121,7 @@ void tst_QNumericalWidgetSlider::independentSpin()
     QCOMPARE(editor()->SpinMaximum(), 10.0);
 }
 
-void tst_QNumericalWidgetSlider::componentLabels()
-{
-    // Index 0 is below the count and added empty, so index 1 still finds its UTF-8 text.
-    Lu::CDynamicWidgetDescBase desc = description(L"Color", 0.0f, 1.0f, {});
-    desc.mapLabels[1] = "H\xc3\xb6he";
-    QVERIFY(build(2, desc));
-    QStringList texts;
-    for (QComboDoubleSpinBox *editor : m_widget->GetComboSpins())
-        texts << editor->text();
-    QCOMPARE(texts, (QStringList { QString(), QString::fromUtf8("H\xc3\xb6he"), QString() }));
-}
-
-void tst_QNumericalWidgetSlider::dragSliderInGroup()
+void tst_QNumericalWidgetSlider::twoComponentsInGroup()
 {
     const auto desc = description(L"Base Color Tint", 0.0f, 1.0f, { 0.2f, 0.4f });
     QVERIFY(build(1, desc));
@@ -147,7 +136,16 @@ void tst_QNumericalWidgetSlider::dragSliderInGroup()
     COMBO_DRAG_SLIDER_TO(editor(1)->UI()->qtHorizontalSlider, 70);
     QCOMPARE(log.entries.mid(log.entries.size() - 2), oneEdit(0.2f, 0.7f));
     QCOMPARE(log.entries.filter(QStringLiteral("EditFinished")).size(), 1);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.2f, 0.7f, 0, 0));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(0.2f, 0.7f, 0, 0));
+
+    // Pushed values reach the editors quietly; out of range, the spin boxes clamp.
+    log.clear();
+    m_widget->UpdateInputValue(Vela::CVector4f(0.3f, 0.6f, 9, 9));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(0.3f, 0.6f, 0, 0));
+    QCOMPARE(editor(1)->UI()->qtHorizontalSlider->value(), 60);
+    m_widget->SetValue(Vela::CVector4f(5, -5, 0, 0));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(1, 0, 0, 0));
+    QVERIFY(log.entries.isEmpty());
 
     // Re-described with the same type, the same group shows the name as it is.
     QGroupWidget *before = group();
@@ -190,27 +188,13 @@ void tst_QNumericalWidgetSlider::labelDoubleClick()
              resets ? QStringLiteral("UneditedWidget") : QStringLiteral("EditedWidget"));
 }
 
-void tst_QNumericalWidgetSlider::pushedValuesAndDecimals()
-{
-    QVERIFY(build(1, description(L"Offset", 0.0f, 1.0f, { 0.2f, 0.4f })));
-    EditLog log(m_widget);
-
-    m_widget->UpdateInputValue(Vela::CVector4f(0.3f, 0.6f, 9, 9));
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(0.3f, 0.6f, 0, 0));
-    QCOMPARE(editor(1)->UI()->qtHorizontalSlider->value(), 60);
-    // SetValue keeps the editors quiet as well; out of range, the spin boxes clamp.
-    m_widget->SetValue(Vela::CVector4f(5, -5, 0, 0));
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(1, 0, 0, 0));
-    QVERIFY(log.entries.isEmpty());
-}
-
 void tst_QNumericalWidgetSlider::nonNumericType()
 {
     // Nothing to reset or push into before Initialize.
     QNumericalWidgetSlider bare;
     bare.SetDecimals(4);
     bare.UpdateInputValue(Vela::CVector4f(1, 2, 3, 4));
-    QVERIFY(bare.GetValue() == Vela::CVector4f());
+    QCOMPARE(bare.GetValue(), Vela::CVector4f());
 
     QVERIFY(build(-1, description(L"Flag", 0.0f, 1.0f, { 1, 1, 1, 1 })));
     // No editors is not one editor: an empty group.
@@ -220,7 +204,7 @@ void tst_QNumericalWidgetSlider::nonNumericType()
     m_widget->SetValue(Vela::CVector4f(1, 2, 3, 4));
     m_widget->SetDecimals(3);
     QTest::mouseDClick(group(), Qt::LeftButton);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f());
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f());
     QVERIFY(log.entries.isEmpty());
 }
 
@@ -238,7 +222,7 @@ void tst_QNumericalWidgetSlider::setDesc()
     m_widget->SetDesc(variable(1), description(L"Size", 0.0f, 1.0f, { 0.1f, 0.2f }));
     // Another count of components: the old editor stays first, the new ones follow in a group.
     QCOMPARE(m_widget->GetComboSpins().size(), 3);
-    QVERIFY(m_widget->GetValue() == Vela::CVector4f(3.0f, 0.1f, 0.2f, 0));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(3.0f, 0.1f, 0.2f, 0));
     QVERIFY(group());
 
     // Each editor still reports once per change.

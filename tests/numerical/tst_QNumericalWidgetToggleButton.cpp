@@ -1,6 +1,5 @@
 #include "NumericalTestSupport.h"
 #include "QNumericalWidgetToggleButton.h"
-#include "VelaTest.h"
 
 #include <QCheckBox>
 #include <QStyle>
@@ -8,7 +7,7 @@
 
 #include <limits>
 
-using NumericalTest::EditLog;
+using namespace NumericalTest;
 
 class tst_QNumericalWidgetToggleButton : public QObject
 {
@@ -33,39 +32,30 @@ private:
         QTest::mouseClick(m_box, Qt::LeftButton, Qt::NoModifier, indicator.center());
     }
 
-    std::unique_ptr<NumericalTest::Panel> m_panel;
+    std::unique_ptr<Panel> m_panel;
     QNumericalWidgetToggleButton *m_widget = nullptr;
     QCheckBox *m_box = nullptr;
 };
 
 void tst_QNumericalWidgetToggleButton::init()
 {
-    m_widget = new QNumericalWidgetToggleButton;
-    m_panel.reset(new NumericalTest::Panel(m_widget));
+    m_panel.reset(new Panel(m_widget = new QNumericalWidgetToggleButton));
     EditLog log(m_widget);
-    Lu::CDynamicWidgetVariableBase var;
-    var.eType = Vela::DynamicVariable_Boolean;
     // The current value is not read when building: the box starts unchecked.
-    var.vValue = Vela::CVector4f(1, 0, 0, 0);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Invert Normal";
-    desc.eBehaviorType = Vela::DynamicBehavior_ToggleButton;
-    QCOMPARE(m_widget->Initialize(var, desc).code(), 0u);
+    QVERIFY(m_panel->build(m_widget, variable(Vela::DynamicVariable_Boolean, { 1, 0, 0, 0 }),
+                           description(L"Invert Normal")));
     QVERIFY(log.entries.isEmpty());
     m_box = m_widget->findChild<QCheckBox *>();
     QVERIFY(m_box);
     QVERIFY(!m_box->isChecked());
-    QVERIFY(m_panel->show());
 }
 
 void tst_QNumericalWidgetToggleButton::construction()
 {
     // Without a check box there is nothing to show a value in.
     QNumericalWidgetToggleButton widget;
-    Lu::CDynamicWidgetVariableBase var;
-    var.vValue = Vela::CVector4f(1, 0, 0, 0);
-    widget.SetDesc(var, Lu::CDynamicWidgetDescBase());
-    widget.SetValue(var.vValue);
+    widget.SetDesc(variable(0, { 1, 0, 0, 0 }), Lu::CDynamicWidgetDescBase());
+    widget.SetValue(Vela::CVector4f(1, 0, 0, 0));
     QVERIFY(!widget.IsChecked());
     QVERIFY(widget.children().isEmpty());
 }
@@ -103,12 +93,12 @@ void tst_QNumericalWidgetToggleButton::values()
     EditLog log(m_widget);
     m_widget->SetValue(Vela::CVector4f(pushed, 1, 1, 1));
     QCOMPARE(m_box->isChecked(), checked);
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(report, 0, 0, 0));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(report, 0, 0, 0));
     QVERIFY(log.entries.isEmpty());
     QVERIFY(!m_box->signalsBlocked());
 
     click();
-    QCOMPARE(log.entries, NumericalTest::oneEdit(clickReport));
+    QCOMPARE(log.entries, oneEdit(clickReport));
 }
 
 void tst_QNumericalWidgetToggleButton::keyboardAndRedescribe()
@@ -117,20 +107,16 @@ void tst_QNumericalWidgetToggleButton::keyboardAndRedescribe()
     m_box->setFocus();
     QTRY_VERIFY(m_box->hasFocus());
     QTest::keyClick(m_box, Qt::Key_Space);
-    QCOMPARE(log.entries, NumericalTest::oneEdit(1));
+    QCOMPARE(log.entries, oneEdit(1));
 
     // Still checked after new values, now reporting the new on-value.
     log.clear();
     m_widget->SetCheckedValue(3.0f, 1.0f);
     QVERIFY(m_widget->IsChecked());
-    NUMERICAL_COMPARE_VECTOR(m_widget->GetValue(), Vela::CVector4f(3, 0, 0, 0));
+    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(3, 0, 0, 0));
 
     // Re-describing applies the record's value, silently.
-    Lu::CDynamicWidgetVariableBase var;
-    var.vValue = Vela::CVector4f(0.5f, 0, 0, 0);
-    Lu::CDynamicWidgetDescBase desc;
-    desc.strName = L"Flip Green";
-    m_widget->SetDesc(var, desc);
+    m_widget->SetDesc(variable(0, { 0.5f, 0, 0, 0 }), description(L"Flip Green"));
     QCOMPARE(m_box->text(), QStringLiteral("Flip Green"));
     QVERIFY(!m_widget->IsChecked());
     QVERIFY(log.entries.isEmpty());

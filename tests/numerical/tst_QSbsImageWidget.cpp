@@ -4,10 +4,8 @@
 #include "VelaTest.h"
 
 #include <QLabel>
-#include <QMimeData>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QUrl>
 #include <QtTest>
 
 static const unsigned int kUid = 4711;
