@@ -74,7 +74,6 @@ void tst_QSliderEx::focusedEditsRecordOnFocusOut()
     m_slider->SetValue(20);
     QVERIFY(BasicTest::FocusWindow::focus(m_other));
     QCOMPARE(records.count(), 1);
-    QCOMPARE(m_slider->value(), 20);
 }
 
 // A drag or a paging click records on release; after a drag every release records again, until

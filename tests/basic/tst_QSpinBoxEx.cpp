@@ -114,10 +114,9 @@ void tst_QSpinBoxEx::arrowClickIsOneSession()
     m_spin->setValue(50);
     QTest::mouseClick(m_spin, Qt::LeftButton, Qt::NoModifier, m_spin->upArrow());
     QCOMPARE(m_spin->value(), 51);
-    QVERIFY(m_events.size() >= 2);
+    QCOMPARE(m_events.filter(QStringLiteral("record")), QStringList({ "record 51" }));
     QCOMPARE(m_events.first(), QStringLiteral("started"));
     QCOMPARE(m_events.last(), QStringLiteral("record 51"));
-    QCOMPARE(m_events.count("record 51"), 1);
 
     // A plain click in the text starts a session but records nothing.
     m_events.clear();

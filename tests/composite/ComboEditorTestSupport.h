@@ -2,8 +2,8 @@
 #define COMBOEDITORTESTSUPPORT_H
 
 // What the tests of the slider–spin-box editors share: dragging a slider's handle to an exact
-// position as a user does, typing into a spin box, a window that logs what a host hears, the
-// double-click reset table, and a current folder for the arrow images.
+// position as a user does, typing into a spin box, a window that logs what a host hears and the
+// double-click reset table.
 
 #include "QSliderEx.h"
 #include "VelaTest.h"
@@ -97,34 +97,6 @@ inline void dragHandle(QSlider *slider, int distance)
         QTest::keyClicks((spinBox), (text));                                                       \
         QTest::keyClick((spinBox), Qt::Key_Return);                                                \
     } while (false)
-
-inline QByteArray arrowSvg(int size, const char *points)
-{
-    return QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"")
-        + QByteArray::number(size) + "\" height=\"" + QByteArray::number(size)
-        + "\" viewBox=\"0 0 10 10\"><polygon points=\"" + points + "\" fill=\"#82be0f\"/></svg>";
-}
-
-// Makes a temporary folder current for as long as it lives, optionally holding arrow images.
-class CurrentFolder
-{
-public:
-    CurrentFolder()
-        : m_previous(QDir::currentPath())
-    {
-        QDir::setCurrent(m_dir.path());
-    }
-    ~CurrentFolder() { QDir::setCurrent(m_previous); }
-
-    bool write(const QString &name, const QByteArray &contents) const
-    {
-        return !VelaTest::writeFile(m_dir.path(), name, contents).isEmpty();
-    }
-
-private:
-    QTemporaryDir m_dir;
-    QString m_previous;
-};
 
 // A shown, active window holding a line edit that has the focus and, below it, one editor whose
 // ValueChanged and EditFinished signals are logged in the order the host receives them.

