@@ -52,14 +52,15 @@ inline void runButtonSession(QWidget *button, QColorDialog *dialog,
     QVERIFY(!dialog->isVisible());
 }
 
-// The colour of the button's icon at `corner` of it; invalid when the icon has another size.
-inline QColor iconColor(const QToolButton &button, Qt::Corner corner)
+// The colour that fills the button's icon (its two opposite corners agree); invalid when the icon
+// has another size or is not one colour.
+inline QColor iconColor(const QToolButton &button)
 {
     const QImage image = button.icon().pixmap(button.iconSize()).toImage();
-    if (image.size() != button.iconSize())
+    if (image.size() != button.iconSize()
+        || image.pixelColor(0, 0) != image.pixelColor(image.width() - 1, image.height() - 1))
         return QColor();
-    return corner == Qt::TopLeftCorner ? image.pixelColor(0, 0)
-                                       : image.pixelColor(image.width() - 1, image.height() - 1);
+    return image.pixelColor(0, 0);
 }
 
 // The first descendant of `parent` whose class is exactly `className` (Qt's private classes have

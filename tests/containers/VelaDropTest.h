@@ -3,11 +3,10 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QList>
-#include <QMimeData>
-#include <QStringList>
 #include <QWidget>
 #include <QtTest>
+
+#include <utility>
 
 // Drag events as the window system delivers them for files dragged in from a file manager, and a
 // host interface for the drag-and-drop list and table. Drag data and one-shot drops: VelaTest.h.
@@ -24,9 +23,7 @@ public:
         : m_target(target)
         , m_mimeData(mimeData)
     {
-        QDragEnterEvent event(pos, kActions, mimeData, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &event);
-        m_entered = m_lastAccepted = event.isAccepted();
+        m_entered = m_lastAccepted = send<QDragEnterEvent>(pos, false);
     }
     ~DragSession()
     {
@@ -35,34 +32,28 @@ public:
             QApplication::sendEvent(m_target, &event);
         }
     }
-    DragSession(const DragSession &) = delete;
-    DragSession &operator=(const DragSession &) = delete;
+    Q_DISABLE_COPY(DragSession)
 
     bool entered() const { return m_entered; }
-
     bool move(const QPoint &pos)
     {
-        if (!m_entered)
-            return false;
-        QDragMoveEvent event(pos, kActions, m_mimeData, Qt::LeftButton, Qt::NoModifier);
-        event.setAccepted(m_lastAccepted);
-        QApplication::sendEvent(m_target, &event);
-        m_lastAccepted = event.isAccepted();
-        return m_lastAccepted;
+        return m_entered && (m_lastAccepted = send<QDragMoveEvent>(pos, m_lastAccepted));
     }
-
     bool drop(const QPoint &pos)
     {
-        if (!m_entered)
-            return false;
-        m_entered = false;
-        QDropEvent event(pos, kActions, m_mimeData, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(m_target, &event);
-        return event.isAccepted();
+        return std::exchange(m_entered, false) && send<QDropEvent>(pos, false);
     }
 
 private:
-    static constexpr Qt::DropActions kActions = Qt::CopyAction | Qt::MoveAction;
+    template<class Event>
+    bool send(const QPoint &pos, bool preAccepted)
+    {
+        Event event(pos, Qt::CopyAction | Qt::MoveAction, m_mimeData, Qt::LeftButton,
+                    Qt::NoModifier);
+        event.setAccepted(preAccepted);
+        QApplication::sendEvent(m_target, &event);
+        return event.isAccepted();
+    }
 
     QWidget *m_target;
     const QMimeData *m_mimeData;

@@ -19,7 +19,7 @@ class tst_QDragDropListWidget : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { delete m_window; }
 
     void refusedWithoutInterfaceOrParent();
     void dropAsksInterface_data();
@@ -53,13 +53,6 @@ void tst_QDragDropListWidget::init()
     m_interface = RecordingListInterface();
     m_window->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_window));
-}
-
-void tst_QDragDropListWidget::cleanup()
-{
-    delete m_window;
-    m_window = nullptr;
-    m_list = nullptr;
 }
 
 void tst_QDragDropListWidget::refusedWithoutInterfaceOrParent()

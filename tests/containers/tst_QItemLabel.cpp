@@ -1,7 +1,6 @@
 #include "QItemLabel.h"
 #include "VelaTest.h"
 
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -29,7 +28,7 @@ class tst_QItemLabel : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { delete m_label; }
 
     void clickSelects();
     void frames();
@@ -60,12 +59,6 @@ void tst_QItemLabel::init()
             [this](const QString &path) { m_events << QStringLiteral("PreImageLoaded ") + path; });
     m_label->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_label));
-}
-
-void tst_QItemLabel::cleanup()
-{
-    delete m_label;
-    m_label = nullptr;
 }
 
 void tst_QItemLabel::clickSelects()

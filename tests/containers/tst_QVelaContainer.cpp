@@ -69,7 +69,7 @@ class tst_QVelaContainer : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { delete m_container; }
     void buttonMap();
     void clicks();
     void exclusiveMode();
@@ -109,12 +109,6 @@ void tst_QVelaContainer::init()
     connect(m_container, &QVelaContainer::NoBtnClicked, [this] { m_events << "NoBtnClicked"; });
     m_container->show();
     QVERIFY(QTest::qWaitForWindowExposed(m_container));
-}
-
-void tst_QVelaContainer::cleanup()
-{
-    delete m_container;
-    m_container = nullptr;
 }
 
 void tst_QVelaContainer::buttonMap()

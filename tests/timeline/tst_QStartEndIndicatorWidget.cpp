@@ -1,8 +1,6 @@
 #include "QStartEndIndicatorWidget.h"
 #include "VelaTest.h"
 
-#include <QPixmap>
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -46,14 +44,12 @@ class tst_QStartEndIndicatorWidget : public QObject
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { delete m_indicator; }
 
     void ratioGeometry_data();
     void ratioGeometry();
-    void updateRatioPlacesAllMarkers();
+    void previewMarkers();
     void dragPlayRangeMarkers();
-    void dragHiddenPreviewMarkers();
-    void onlyLeftPressOnAMarkerDrags();
     void images();
 
 private:
@@ -81,12 +77,6 @@ void tst_QStartEndIndicatorWidget::init()
     QCOMPARE(m_indicator->childrenRect(), kSlider);
 }
 
-void tst_QStartEndIndicatorWidget::cleanup()
-{
-    delete m_indicator;
-    m_indicator = nullptr;
-}
-
 void tst_QStartEndIndicatorWidget::ratioGeometry_data()
 {
     QTest::addColumn<int>("offset");
@@ -108,7 +98,6 @@ void tst_QStartEndIndicatorWidget::ratioGeometry()
     QFETCH(float, startRatio);
     QFETCH(float, endRatio);
     QFETCH(int, startX);
-    QFETCH(int, endX);
 
     m_indicator->SetStartEndIndicatorCSSOffset(offset);
     m_indicator->SetStartRatio(startRatio);
@@ -116,17 +105,27 @@ void tst_QStartEndIndicatorWidget::ratioGeometry()
     const QImage image = shot();
     QCOMPARE(column(image, kBelow, kStart), startX);
     QCOMPARE(column(image, kBelow, kStart, true), startX + 9);
-    QCOMPARE(column(image, kBelow, kEnd), endX);
+    QTEST(column(image, kBelow, kEnd), "endX");
     // Both sit right below the slider, from its last row down.
     QVERIFY(image.pixelColor(startX + 1, 48) != kStart);
     QCOMPARE(image.pixelColor(startX + 1, 49), kStart);
 }
 
-void tst_QStartEndIndicatorWidget::updateRatioPlacesAllMarkers()
+void tst_QStartEndIndicatorWidget::previewMarkers()
 {
-    m_indicator->UpdateRatio(0.1f, 0.9f, 0.2f, 0.8f);
-    QCOMPARE(column(shot(), kAbove, kPreviewStart), -1); // hidden until the host asks
+    // Hidden until the host asks, yet a press on them still drags them.
+    QSignalSpy startSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderPreviewStartRatio);
+    QSignalSpy endSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderPreviewEndRatio);
+    m_indicator->SetPreviewStartRatio(0.0f); // x 12
+    m_indicator->SetPreviewEndRatio(1.0f); // x 220
+    QCOMPARE(column(shot(), kAbove, kPreviewStart), -1);
+    drag(QPoint(15, kAbove), { QPoint(65, kAbove) });
+    QCOMPARE(ratios(startSpy), QList<float>({ 0.25f }));
+    drag(QPoint(222, kAbove), { QPoint(0, kAbove) }); // stops at preview start x + 8
+    QCOMPARE(ratios(endSpy), QList<float>({ 0.25f }));
+    QCOMPARE(startSpy.count(), 1);
 
+    m_indicator->UpdateRatio(0.1f, 0.9f, 0.2f, 0.8f);
     m_indicator->SetDrawPrevewIndicatorFlag(true);
     m_indicator->update();
     const QImage image = shot();
@@ -143,14 +142,25 @@ void tst_QStartEndIndicatorWidget::dragPlayRangeMarkers()
 {
     QSignalSpy startSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderStartRatio);
     QSignalSpy endSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderEndRatio);
+    m_indicator->setMouseTracking(true);
     m_indicator->SetStartRatio(0.0f); // x 10
     m_indicator->SetEndRatio(0.5f); // x 120
+    // Only the left button drags.
+    QTest::mousePress(m_indicator, Qt::RightButton, Qt::NoModifier, QPoint(13, kBelow));
+    VelaTest::mouseMove(m_indicator, QPoint(100, kBelow), Qt::RightButton);
+    QTest::mouseRelease(m_indicator, Qt::RightButton, Qt::NoModifier, QPoint(100, kBelow));
+    QCOMPARE(startSpy.count(), 0);
     // To 0.2, then past the end marker (stopped with its right edge on the end marker's left
     // edge), then before the track.
     drag(QPoint(13, kBelow), { QPoint(53, kBelow), QPoint(250, kBelow), QPoint(-40, kBelow) });
     QCOMPARE(ratios(startSpy), QList<float>({ 0.2f, 0.5f, 0.0f }));
-    QCOMPARE(endSpy.count(), 0);
     QCOMPARE(column(shot(), kBelow, kStart), 10);
+    // The release ended the drag; a press beside every marker grabs nothing.
+    VelaTest::mouseMove(m_indicator, QPoint(93, kBelow), Qt::NoButton);
+    QTest::mousePress(m_indicator, Qt::LeftButton, Qt::NoModifier, QPoint(150, 80));
+    VelaTest::mouseMove(m_indicator, QPoint(160, 80));
+    QCOMPARE(startSpy.count(), 3);
+    QCOMPARE(endSpy.count(), 0);
 
     m_indicator->SetStartRatio(0.25f); // x 60
     m_indicator->SetEndRatio(0.75f); // x 170
@@ -159,39 +169,6 @@ void tst_QStartEndIndicatorWidget::dragPlayRangeMarkers()
     QCOMPARE(ratios(endSpy), QList<float>({ 0.25f, 1.0f, 0.5f }));
     QCOMPARE(startSpy.count(), 3);
     QCOMPARE(column(shot(), kBelow, kEnd), 120);
-}
-
-void tst_QStartEndIndicatorWidget::dragHiddenPreviewMarkers()
-{
-    QSignalSpy startSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderPreviewStartRatio);
-    QSignalSpy endSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderPreviewEndRatio);
-    m_indicator->SetPreviewStartRatio(0.0f); // x 12
-    m_indicator->SetPreviewEndRatio(1.0f); // x 220
-
-    drag(QPoint(15, kAbove), { QPoint(65, kAbove) });
-    QCOMPARE(ratios(startSpy), QList<float>({ 0.25f }));
-    drag(QPoint(222, kAbove), { QPoint(0, kAbove) }); // stops at preview start x + 8
-    QCOMPARE(ratios(endSpy), QList<float>({ 0.25f }));
-    QCOMPARE(startSpy.count(), 1);
-}
-
-void tst_QStartEndIndicatorWidget::onlyLeftPressOnAMarkerDrags()
-{
-    QSignalSpy startSpy(m_indicator, &QStartEndIndicatorWidget::SetPlaySliderStartRatio);
-    m_indicator->setMouseTracking(true);
-    m_indicator->SetStartRatio(0.0f);
-    m_indicator->SetEndRatio(1.0f);
-    QTest::mousePress(m_indicator, Qt::RightButton, Qt::NoModifier, QPoint(13, kBelow));
-    VelaTest::mouseMove(m_indicator, QPoint(100, kBelow), Qt::RightButton);
-    QTest::mouseRelease(m_indicator, Qt::RightButton, Qt::NoModifier, QPoint(100, kBelow));
-    QCOMPARE(startSpy.count(), 0);
-
-    // The release ends the drag; a press beside every marker grabs nothing.
-    drag(QPoint(13, kBelow), { QPoint(33, kBelow) });
-    VelaTest::mouseMove(m_indicator, QPoint(93, kBelow), Qt::NoButton);
-    QTest::mousePress(m_indicator, Qt::LeftButton, Qt::NoModifier, QPoint(150, 80));
-    VelaTest::mouseMove(m_indicator, QPoint(160, 80));
-    QCOMPARE(ratios(startSpy), QList<float>({ 0.1f }));
 }
 
 void tst_QStartEndIndicatorWidget::images()
@@ -218,7 +195,6 @@ void tst_QStartEndIndicatorWidget::images()
 
     // Enabling brings back the widget's own images.
     m_indicator->SetEnabled(true);
-    QVERIFY(m_indicator->isEnabled());
     image = shot();
     QCOMPARE(column(image, kBelow, Qt::red), -1);
     QCOMPARE(image.pixelColor(16, kBelow), kStart);
