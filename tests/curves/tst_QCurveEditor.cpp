@@ -53,16 +53,14 @@ class tst_QCurveEditor : public QObject
 
 private slots:
     void init();
-    void initFillsEveryPart();
     void handleRules_data();
     void handleRules();
-    void dragNeedsTheLeftButtonAlone();
-    void releaseEndsTheSelectionAndCallsBack();
+    void dragNeedsTheLeftButtonAloneAndReleaseCallsBack();
     void slotsInOrder();
     void dividersAndSymmetryByShortcut();
     void curveWeighting_data();
     void curveWeighting();
-    void resetRestoresCurrentPartOnly();
+    void initFillsEveryPartAndResetRestoresCurrentOnly();
     void irregularDataIsSafe();
 
 private:
@@ -89,15 +87,6 @@ void tst_QCurveEditor::drag(QPoint from, QPoint to)
     QTest::mouseRelease(m_editor.get(), Qt::LeftButton, Qt::NoModifier, to);
 }
 
-void tst_QCurveEditor::initFillsEveryPart()
-{
-    const CurveData data = m_editor->GetData();
-    QCOMPARE(data.keys(), QList<int>({ 0, 1, 2 }));
-    for (const QList<QPoint> &points : data)
-        QCOMPARE(points, kDefaultCurve);
-    QCOMPARE(m_editor->GetPart(), 0);
-}
-
 void tst_QCurveEditor::handleRules_data()
 {
     QTest::addColumn<bool>("symmetry");
@@ -106,36 +95,26 @@ void tst_QCurveEditor::handleRules_data()
     QTest::addColumn<int>("index"); // the point that moves to expected, -1: none moves
     QTest::addColumn<QPoint>("expected");
     QTest::addColumn<QPoint>("mirror"); // where its mirror moves, null: it stays
+    const auto row = [](const char *tag, bool symmetry, QPoint from, QPoint to, int index = -1,
+                        QPoint expected = QPoint(), QPoint mirror = QPoint()) {
+        QTest::newRow(tag) << symmetry << from << to << index << expected << mirror;
+    };
 
     // The mirror is taken at (W - x - 5, y), so it lands a little right of the exact mirror.
-    QTest::newRow("left handle") << true << QPoint(34, 0) << canvas(20, 60) << 1 << QPoint(20, 60)
-                                 << QPoint(78, 60);
-    QTest::newRow("inner handle") << true << QPoint(32, 80) << canvas(40, 70) << 2 << QPoint(40, 70)
-                                  << QPoint(58, 70);
+    row("left handle", true, { 34, 0 }, canvas(20, 60), 1, { 20, 60 }, { 78, 60 });
+    row("inner handle", true, { 32, 80 }, canvas(40, 70), 2, { 40, 70 }, { 58, 70 });
     // x rounds up, y truncates.
-    QTest::newRow("between units")
-        << true << QPoint(34, 0) << QPoint(51, 45) << 1 << QPoint(21, 77) << QPoint(77, 77);
-    QTest::newRow("below and left")
-        << true << QPoint(34, 0) << QPoint(-40, 300) << 1 << QPoint(0, 0) << QPoint(100, 0);
-    QTest::newRow("above and right")
-        << true << QPoint(32, 80) << QPoint(400, -20) << 2 << QPoint(100, 100) << QPoint(0, 100);
-    QTest::newRow("left handle, free")
-        << false << QPoint(34, 0) << canvas(20, 60) << 1 << QPoint(20, 60) << QPoint();
-    QTest::newRow("apex moves only vertically")
-        << true << QPoint(50, 80) << canvas(20, 50) << 3 << QPoint(50, 50) << QPoint();
-    QTest::newRow("apex clamped") << true << QPoint(50, 80) << QPoint(300, -100) << 3
-                                  << QPoint(50, 100) << QPoint();
+    row("between units", true, { 34, 0 }, { 51, 45 }, 1, { 21, 77 }, { 77, 77 });
+    row("below and left", true, { 34, 0 }, { -40, 300 }, 1, { 0, 0 }, { 100, 0 });
+    row("above and right", true, { 32, 80 }, { 400, -20 }, 2, { 100, 100 }, { 0, 100 });
+    row("apex moves only vertically", true, { 50, 80 }, canvas(20, 50), 3, { 50, 50 });
+    row("apex clamped", true, { 50, 80 }, { 300, -100 }, 3, { 50, 100 });
     // With symmetry the right handles only follow the left ones; without it they move freely.
-    QTest::newRow("right handle follows only")
-        << true << QPoint(68, 80) << canvas(85, 50) << -1 << QPoint() << QPoint();
-    QTest::newRow("right handle, free")
-        << false << QPoint(68, 80) << canvas(85, 50) << 4 << QPoint(85, 50) << QPoint();
-    QTest::newRow("right outer handle, free")
-        << false << QPoint(66, 0) << canvas(90, 30) << 5 << QPoint(90, 30) << QPoint();
-    QTest::newRow("start stays") << true << QPoint(0, 0) << canvas(50, 40) << -1 << QPoint()
-                                 << QPoint();
-    QTest::newRow("end stays, free")
-        << false << QPoint(100, 0) << canvas(50, 40) << -1 << QPoint() << QPoint();
+    row("right handle follows only", true, { 68, 80 }, canvas(85, 50));
+    row("right handle, free", false, { 68, 80 }, canvas(85, 50), 4, { 85, 50 });
+    row("right outer handle, free", false, { 66, 0 }, canvas(90, 30), 5, { 90, 30 });
+    row("start stays", true, { 0, 0 }, canvas(50, 40));
+    row("end stays, free", false, { 100, 0 }, canvas(50, 40));
 }
 
 void tst_QCurveEditor::handleRules()
@@ -160,36 +139,26 @@ void tst_QCurveEditor::handleRules()
     QCOMPARE(m_finished, 1);
 }
 
-void tst_QCurveEditor::dragNeedsTheLeftButtonAlone()
+void tst_QCurveEditor::dragNeedsTheLeftButtonAloneAndReleaseCallsBack()
 {
-    const QPoint from = canvas(34, 0);
     const QPoint to = canvas(20, 60);
     // The press selects whatever button it comes from, but only a left-button drag moves.
-    QTest::mousePress(m_editor.get(), Qt::RightButton, Qt::NoModifier, from);
+    QTest::mousePress(m_editor.get(), Qt::RightButton, Qt::NoModifier, canvas(34, 0));
     VelaTest::mouseMove(m_editor.get(), to, Qt::RightButton);
     QCOMPARE(m_editor->GetData().value(0), kDefaultCurve);
     VelaTest::mouseMove(m_editor.get(), to, Qt::LeftButton | Qt::RightButton);
     QCOMPARE(m_editor->GetData().value(0), kDefaultCurve);
-
     VelaTest::mouseMove(m_editor.get(), to, Qt::LeftButton);
     QCOMPARE(m_editor->GetData().value(0).at(1), QPoint(20, 60));
+    QCOMPARE(m_finished, 0);
     QTest::mouseRelease(m_editor.get(), Qt::RightButton, Qt::NoModifier, to);
-}
-
-void tst_QCurveEditor::releaseEndsTheSelectionAndCallsBack()
-{
-    QTest::mouseClick(m_editor.get(), Qt::LeftButton, Qt::NoModifier, QPoint(180, 120));
     QCOMPARE(m_finished, 1);
 
-    QTest::mousePress(m_editor.get(), Qt::LeftButton, Qt::NoModifier, canvas(34, 0));
-    VelaTest::mouseMove(m_editor.get(), canvas(20, 60));
-    QCOMPARE(m_finished, 1);
-    QTest::mouseRelease(m_editor.get(), Qt::LeftButton, Qt::NoModifier, canvas(20, 60));
-    QCOMPARE(m_finished, 2);
-
-    // After the release a drag from empty space moves nothing.
+    // After the release a drag from empty space moves nothing; a click without a drag calls back
+    // too.
     const CurveData before = m_editor->GetData();
     drag(QPoint(180, 120), canvas(70, 70));
+    QTest::mouseClick(m_editor.get(), Qt::LeftButton, Qt::NoModifier, QPoint(180, 120));
     QCOMPARE(m_editor->GetData(), before);
     QCOMPARE(m_finished, 3);
 
@@ -264,9 +233,14 @@ void tst_QCurveEditor::curveWeighting()
     QCOMPARE(m_finished, 1);
 }
 
-void tst_QCurveEditor::resetRestoresCurrentPartOnly()
+void tst_QCurveEditor::initFillsEveryPartAndResetRestoresCurrentOnly()
 {
     CurveData data = m_editor->GetData();
+    QCOMPARE(data.keys(), QList<int>({ 0, 1, 2 }));
+    for (const QList<QPoint> &points : data)
+        QCOMPARE(points, kDefaultCurve);
+    QCOMPARE(m_editor->GetPart(), 0);
+
     for (int part = 0; part < 3; ++part)
         data[part][3] = QPoint(50, 10 + part);
     m_editor->SetData(data);

@@ -3,9 +3,6 @@
 
 #include <QtTest>
 
-using Points = std::vector<Vela::CVector3<float>>;
-Q_DECLARE_METATYPE(Points)
-
 namespace {
 
 bool isBlue(QRgb pixel)
@@ -29,52 +26,33 @@ class tst_QKdCurveWidget : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void drawsNothing_data();
-    void drawsNothing();
-    void usesNinetyPercent();
-
-private:
-    std::unique_ptr<QKdCurveWidget> m_widget;
+    void drawsNinetyPercentOfTheSequence();
 };
 
-void tst_QKdCurveWidget::init()
+void tst_QKdCurveWidget::drawsNinetyPercentOfTheSequence()
 {
-    m_widget.reset(new QKdCurveWidget);
-    m_widget->resize(200, 100);
-}
+    QKdCurveWidget widget;
+    widget.resize(200, 100);
+    const auto blueInWidget = [&widget] {
+        return bluePixels(widget.grab().toImage(), widget.rect());
+    };
+    // Nothing drawn before a sequence is set, nor for a single point.
+    QCOMPARE(blueInWidget(), 0);
+    widget.SetCurveSeq({ { 0.5f, 0.5f, 0.0f } });
+    QCOMPARE(blueInWidget(), 0);
 
-void tst_QKdCurveWidget::drawsNothing_data()
-{
-    QTest::addColumn<Points>("points");
-    QTest::newRow("never set") << Points();
-    QTest::newRow("single point") << Points({ { 0.5f, 0.5f, 0.0f } });
-}
-
-void tst_QKdCurveWidget::drawsNothing()
-{
-    QFETCH(Points, points);
-    if (!points.empty())
-        m_widget->SetCurveSeq(points);
-    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
-
-    // An empty sequence clears a drawn line.
-    m_widget->SetCurveSeq({ { 0.0f, 0.0f, 0.0f }, { 1.0f, 1.0f, 0.0f } });
-    QVERIFY(bluePixels(m_widget->grab().toImage(), m_widget->rect()) > 0);
-    m_widget->SetCurveSeq({});
-    QCOMPARE(bluePixels(m_widget->grab().toImage(), m_widget->rect()), 0);
-}
-
-void tst_QKdCurveWidget::usesNinetyPercent()
-{
     // (1, 1) lands at (0.9 W, 0.9 H) = (180, 90): y grows downwards.
-    m_widget->SetCurveSeq({ { 0.5f, 0.5f, 0.0f }, { 1.0f, 1.0f, 7.0f } });
-    const QImage image = m_widget->grab().toImage();
+    widget.SetCurveSeq({ { 0.5f, 0.5f, 0.0f }, { 1.0f, 1.0f, 7.0f } });
+    const QImage image = widget.grab().toImage();
     QVERIFY(isBlue(image.pixel(140, 70)));
     QVERIFY(bluePixels(image, QRect(176, 86, 3, 3)) > 0);
     QCOMPARE(bluePixels(image, QRect(183, 0, 17, 100)), 0);
     QCOMPARE(bluePixels(image, QRect(0, 93, 200, 7)), 0);
     QCOMPARE(bluePixels(image, QRect(0, 0, 87, 100)), 0);
+
+    // An empty sequence clears a drawn line.
+    widget.SetCurveSeq({});
+    QCOMPARE(blueInWidget(), 0);
 }
 
 VELA_TEST_CLASS(tst_QKdCurveWidget)

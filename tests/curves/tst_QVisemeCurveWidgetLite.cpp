@@ -17,8 +17,9 @@ namespace {
 constexpr int kLeft = 15, kTop = 15, kRight = 311, kBottom = 237;
 
 const QStringList kApplied = { "ClearKeys", "ApplyVisemeData" };
-const char kButtonFormat[] = "application/x-visemebutton";
-const char kListItemFormat[] = "application/x-visemelistitem";
+const QString kButtonFormat = QStringLiteral("application/x-visemebutton");
+const QString kListItemFormat = QStringLiteral("application/x-visemelistitem");
+const Keys kEnds = { QPointF(0, 0), QPointF(1, 0) };
 
 QPoint pixelOf(QPointF key)
 {
@@ -39,32 +40,17 @@ QString selChanged(QPointF key)
     return QStringLiteral("SelKeyValueChanged %1").arg(float(key.y() * 100));
 }
 
-QMimeData *mime(const char *format, const QString *text = nullptr)
-{
-    auto *data = new QMimeData;
-    data->setData(QLatin1String(format), QByteArray());
-    if (text)
-        data->setText(*text);
-    return data;
-}
-
-int darkPixels(const QImage &image, QRect area)
+// Pixels of area in exactly colour, or dark ones (every channel below 100) without a colour.
+int countPixels(const QImage &image, QRect area, const QColor &colour = QColor())
 {
     int count = 0;
     for (int y = area.top(); y <= area.bottom(); ++y)
         for (int x = area.left(); x <= area.right(); ++x) {
             const QRgb pixel = image.pixel(x, y);
-            count += qRed(pixel) < 100 && qGreen(pixel) < 100 && qBlue(pixel) < 100;
+            count += colour.isValid()
+                ? (pixel & 0xFFFFFF) == (colour.rgb() & 0xFFFFFF)
+                : qRed(pixel) < 100 && qGreen(pixel) < 100 && qBlue(pixel) < 100;
         }
-    return count;
-}
-
-int countColor(const QImage &image, const QColor &color)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            count += (image.pixel(x, y) & 0xFFFFFF) == (color.rgb() & 0xFFFFFF);
     return count;
 }
 
@@ -76,23 +62,18 @@ class tst_QVisemeCurveWidgetLite : public QObject
 
 private slots:
     void init();
-    void cleanup();
     void signalsInOrder();
-    void initColours();
-    void slotData();
-    void endPoints_data();
+    void initColoursAndSlotData();
     void endPoints();
     void pressAddsKeyThatDragsAndSortsOnRelease();
     void pressAddsOnlyWhenAllowed_data();
     void pressAddsOnlyWhenAllowed();
     void singlePhonemeAddsAtLeftEdge();
-    void pressNearEdgeSelectsKey();
+    void selectedKey();
     void dragIsClampedToArea();
-    void dragNeedsTheLeftButtonAlone();
+    void dragAndReleaseNeedLeftButtonAndSlotInUse();
     void rightPressDeletesKey_data();
     void rightPressDeletesKey();
-    void releaseNeedsSlotInUse();
-    void selectedKeyValue();
     void dropListItemClaimsSlot();
     void dropsThatChangeNothing_data();
     void dropsThatChangeNothing();
@@ -105,8 +86,26 @@ private slots:
 
 private:
     CVisemeUIData &slot(int index) { return m_widget->GetVisemeUIData()[index]; }
-    // Names slot index, makes it current and gives it keys.
+    // Names slot index and its button, makes it current and gives it keys.
     void useSlot(int index, const QString &name, const Keys &keys);
+    // Slot index as "<button text>/<name>/<in use>/<key count>".
+    QString state(int index)
+    {
+        return QStringLiteral("%1/%2/%3/%4")
+            .arg(m_buttons.at(index)->text(), slot(index).m_strName)
+            .arg(slot(index).m_bInUse)
+            .arg(slot(index).m_lstKeys.size());
+    }
+    void click(QPoint pos, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(m_widget, button, Qt::NoModifier, pos);
+    }
+    void drag(QPoint from, QPoint to)
+    {
+        QTest::mousePress(m_widget, Qt::LeftButton, Qt::NoModifier, from);
+        VelaTest::mouseMove(m_widget, to);
+        QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, to);
+    }
 
     std::unique_ptr<QWidget> m_host;
     QVisemeCurveWidgetLite *m_widget = nullptr;
@@ -128,23 +127,17 @@ void tst_QVisemeCurveWidgetLite::init()
     }
     m_widget->Init();
     m_log.clear();
-    connect(m_widget, &QVisemeCurveWidgetLite::ClearKeys, this,
-            [this] { m_log << QStringLiteral("ClearKeys"); });
+    connect(m_widget, &QVisemeCurveWidgetLite::ClearKeys, this, [this] { m_log << "ClearKeys"; });
     connect(m_widget, &QVisemeCurveWidgetLite::ApplyVisemeData, this,
-            [this] { m_log << QStringLiteral("ApplyVisemeData"); });
+            [this] { m_log << "ApplyVisemeData"; });
     connect(m_widget, &QVisemeCurveWidgetLite::SelKeyValueChanged, this,
             [this](float value) { m_log << QStringLiteral("SelKeyValueChanged %1").arg(value); });
-}
-
-void tst_QVisemeCurveWidgetLite::cleanup()
-{
-    m_host.reset();
-    m_widget = nullptr;
 }
 
 void tst_QVisemeCurveWidgetLite::useSlot(int index, const QString &name, const Keys &keys)
 {
     m_widget->AddVisemeData(index, name);
+    m_buttons.at(index)->setText(name);
     slot(index).m_lstKeys = keys;
     m_widget->SetCurrentCheckButtonIndex(index);
 }
@@ -161,17 +154,14 @@ void tst_QVisemeCurveWidgetLite::signalsInOrder()
              QStringList({ "ApplyVisemeData()", "ClearKeys()", "SelKeyValueChanged(float)" }));
 }
 
-void tst_QVisemeCurveWidgetLite::initColours()
+void tst_QVisemeCurveWidgetLite::initColoursAndSlotData()
 {
     const QColor colours[] = { { 143, 0, 0 },    { 31, 31, 111 }, { 47, 111, 47 }, { 255, 95, 255 },
                                { 255, 143, 47 }, { 10, 95, 170 }, { 255, 250, 0 }, { 129, 1, 255 },
                                { 81, 100, 100 }, { 0, 0, 0 },     { 0, 0, 0 },     { 0, 0, 0 } };
     for (int i = 0; i < 12; ++i)
         QCOMPARE(slot(i).m_kColor, colours[i]);
-}
 
-void tst_QVisemeCurveWidgetLite::slotData()
-{
     useSlot(4, QStringLiteral("OH"), { QPointF(0, 0.5) });
     m_widget->AddVisemeData(4, QStringLiteral("EE"));
     QVERIFY(slot(4).m_lstKeys.isEmpty());
@@ -185,28 +175,25 @@ void tst_QVisemeCurveWidgetLite::slotData()
     m_widget->SetCurrentCheckButtonIndex(40);
     QCOMPARE(m_widget->GetSelPtValue(), 0.0f);
     m_widget->SetSelKeyValue(50);
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+    click(QPoint(100, 100));
     QVERIFY(!m_widget->grab().isNull());
-}
-
-void tst_QVisemeCurveWidgetLite::endPoints_data()
-{
-    QTest::addColumn<bool>("single");
-    QTest::addColumn<Keys>("expected");
-    QTest::newRow("span") << false << Keys({ QPointF(0, 0), QPointF(1, 0) });
-    QTest::newRow("single phoneme") << true << Keys({ QPointF(0, 0) });
 }
 
 void tst_QVisemeCurveWidgetLite::endPoints()
 {
-    QFETCH(bool, single);
-    QFETCH(Keys, expected);
-    m_widget->SetSinglePhonemeState(single);
+    // Every slot without keys gets both end keys; one with keys keeps its own.
     useSlot(3, QStringLiteral("AA"), { QPointF(0.5, 0.5) });
     m_widget->AddVisemeCurveEndPoints();
     QCOMPARE(slot(3).m_lstKeys, Keys({ QPointF(0.5, 0.5) }));
-    for (int i : { 0, 2, 4, 11 })
-        QCOMPARE(slot(i).m_lstKeys, expected);
+    for (int i : { 0, 4, 11 })
+        QCOMPARE(slot(i).m_lstKeys, kEnds);
+
+    // A single phoneme has its start key only.
+    slot(2).m_lstKeys.clear();
+    m_widget->SetSinglePhonemeState(true);
+    m_widget->AddVisemeCurveEndPoints();
+    QCOMPARE(slot(2).m_lstKeys, Keys({ QPointF(0, 0) }));
+    QCOMPARE(slot(11).m_lstKeys, kEnds);
 }
 
 void tst_QVisemeCurveWidgetLite::pressAddsKeyThatDragsAndSortsOnRelease()
@@ -216,7 +203,6 @@ void tst_QVisemeCurveWidgetLite::pressAddsKeyThatDragsAndSortsOnRelease()
     const QPointF added = keyAt(88, 126);
     QCOMPARE(slot(1).m_lstKeys, Keys({ QPointF(0, 0), added, QPointF(0.5, 0.25), QPointF(1, 0) }));
     QCOMPARE(slot(1).m_nSelectedKey, 1);
-    QCOMPARE(m_widget->GetSelPtValue(), float(added.y() * 100));
 
     // Dragged past its neighbour: not re-sorted until the release, which leaves the selection.
     VelaTest::mouseMove(m_widget, QPoint(250, 60));
@@ -233,18 +219,16 @@ void tst_QVisemeCurveWidgetLite::pressAddsOnlyWhenAllowed_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("button");
     QTest::addColumn<QPoint>("pos");
-    QTest::newRow("unnamed slot") << QString() << int(Qt::LeftButton) << QPoint(100, 100);
-    QTest::newRow("right button") << QStringLiteral("AA") << int(Qt::RightButton)
-                                  << QPoint(100, 100);
-    QTest::newRow("middle button")
-        << QStringLiteral("AA") << int(Qt::MiddleButton) << QPoint(100, 100);
-    QTest::newRow("margin left") << QStringLiteral("AA") << int(Qt::LeftButton)
-                                 << QPoint(kLeft - 3, 100);
-    QTest::newRow("margin top") << QStringLiteral("AA") << int(Qt::LeftButton)
-                                << QPoint(100, kTop - 1);
+    const auto row = [](const char *tag, const char *name, Qt::MouseButton button, QPoint pos) {
+        QTest::newRow(tag) << QString::fromLatin1(name) << int(button) << pos;
+    };
+    row("unnamed slot", "", Qt::LeftButton, QPoint(100, 100));
+    row("right button", "AA", Qt::RightButton, QPoint(100, 100));
+    row("middle button", "AA", Qt::MiddleButton, QPoint(100, 100));
+    row("margin left", "AA", Qt::LeftButton, QPoint(kLeft - 3, 100));
+    row("margin top", "AA", Qt::LeftButton, QPoint(100, kTop - 1));
     // The right edge leaves room for the first button plus 28 pixels.
-    QTest::newRow("margin right") << QStringLiteral("AA") << int(Qt::LeftButton)
-                                  << QPoint(kRight + 1, 100);
+    row("margin right", "AA", Qt::LeftButton, QPoint(kRight + 1, 100));
 }
 
 void tst_QVisemeCurveWidgetLite::pressAddsOnlyWhenAllowed()
@@ -263,30 +247,39 @@ void tst_QVisemeCurveWidgetLite::singlePhonemeAddsAtLeftEdge()
 {
     m_widget->SetSinglePhonemeState(true);
     useSlot(0, QStringLiteral("AA"), {});
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(kLeft + 4, 100));
+    click(QPoint(kLeft + 4, 100));
     QVERIFY(slot(0).m_lstKeys.isEmpty());
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(kLeft + 3, 100));
+    click(QPoint(kLeft + 3, 100));
     QCOMPARE(slot(0).m_lstKeys, Keys({ keyAt(kLeft, 100) }));
     QCOMPARE(slot(0).m_nSelectedKey, 0);
 
     // Dragging keeps the key's time.
-    QTest::mousePress(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(kLeft, 100));
-    VelaTest::mouseMove(m_widget, QPoint(200, 60));
+    drag(QPoint(kLeft, 100), QPoint(200, 60));
     QCOMPARE(slot(0).m_lstKeys, Keys({ keyAt(kLeft, 60) }));
-    QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(200, 60));
 }
 
-void tst_QVisemeCurveWidgetLite::pressNearEdgeSelectsKey()
+void tst_QVisemeCurveWidgetLite::selectedKey()
 {
     // Keys on the edges are reachable from just outside the area.
-    useSlot(0, QStringLiteral("AA"), { QPointF(0, 0), QPointF(1, 0.5) });
-    slot(0).m_nSelectedKey = 0;
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier,
-                      pixelOf(QPointF(1, 0.5)) + QPoint(3, 0));
+    useSlot(0, QStringLiteral("AA"), { QPointF(0, 0), QPointF(1, 0.375) });
+    click(pixelOf(QPointF(1, 0.375)) + QPoint(3, 0));
     QCOMPARE(slot(0).m_nSelectedKey, 1);
     QCOMPARE(slot(0).m_lstKeys.size(), 2);
-    QCOMPARE(m_log.first(), QStringLiteral("SelKeyValueChanged 50"));
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(kLeft - 2, kBottom + 2));
+    QCOMPARE(m_log, QStringList(QStringLiteral("SelKeyValueChanged 37.5")) + kApplied);
+    QCOMPARE(m_widget->GetSelPtValue(), 37.5f);
+
+    // Set as given, without a signal; a key far outside the area still paints.
+    m_log.clear();
+    m_widget->SetSelKeyValue(250);
+    QCOMPARE(slot(0).m_lstKeys.at(1), QPointF(1, 2.5));
+    QVERIFY(!m_widget->grab().isNull());
+    slot(0).m_nSelectedKey = 2;
+    QCOMPARE(m_widget->GetSelPtValue(), 0.0f);
+    m_widget->SetSelKeyValue(10);
+    QCOMPARE(slot(0).m_lstKeys.at(1), QPointF(1, 2.5));
+    QVERIFY(m_log.isEmpty());
+
+    click(QPoint(kLeft - 2, kBottom + 2));
     QCOMPARE(slot(0).m_nSelectedKey, 0);
 }
 
@@ -303,14 +296,11 @@ void tst_QVisemeCurveWidgetLite::dragIsClampedToArea()
     QCOMPARE(slot(0).m_lstKeys, Keys({ QPointF(0, 0), QPointF(0, 0), QPointF(1, 0.25) }));
 
     // Released on the time of the last key with another weight: it replaces that key.
-    QTest::mousePress(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    VelaTest::mouseMove(m_widget, QPoint(kRight + 40, 100));
-    QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(kRight + 40, 100));
+    drag(QPoint(5, 5), QPoint(kRight + 40, 100));
     QCOMPARE(slot(0).m_lstKeys, Keys({ QPointF(0, 0), keyAt(kRight, 100) }));
-    QCOMPARE(m_log.mid(m_log.size() - 2), kApplied);
 }
 
-void tst_QVisemeCurveWidgetLite::dragNeedsTheLeftButtonAlone()
+void tst_QVisemeCurveWidgetLite::dragAndReleaseNeedLeftButtonAndSlotInUse()
 {
     useSlot(0, QStringLiteral("AA"), { QPointF(0, 0), QPointF(0.5, 0.5), QPointF(1, 0) });
     slot(0).m_nSelectedKey = 1;
@@ -321,15 +311,26 @@ void tst_QVisemeCurveWidgetLite::dragNeedsTheLeftButtonAlone()
     QVERIFY(m_log.isEmpty());
 
     // The selection outlives the release, so a drag from anywhere moves the last selected key.
-    QTest::mousePress(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    VelaTest::mouseMove(m_widget, QPoint(100, 200));
+    drag(QPoint(5, 5), QPoint(100, 200));
     QCOMPARE(slot(0).m_lstKeys.at(1), keyAt(100, 200));
-    QTest::mouseRelease(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(100, 200));
 
-    // A free slot keeps its keys.
+    // A free slot keeps its keys when dragged; it still takes new keys while named, but neither
+    // selects nor reports.
     slot(0).m_bInUse = false;
+    m_log.clear();
     VelaTest::mouseMove(m_widget, QPoint(200, 100));
     QCOMPARE(slot(0).m_lstKeys.at(1), keyAt(100, 200));
+    click(QPoint(150, 100));
+    QCOMPARE(slot(0).m_lstKeys.size(), 4);
+    QCOMPARE(slot(0).m_nSelectedKey, 1);
+    QVERIFY(m_log.isEmpty());
+
+    // A selection past the end still reports, and deletes nothing.
+    slot(0).m_bInUse = true;
+    slot(0).m_nSelectedKey = 5;
+    click(QPoint(5, 5));
+    QCOMPARE(m_log, kApplied);
+    QCOMPARE(slot(0).m_lstKeys.size(), 4);
 }
 
 void tst_QVisemeCurveWidgetLite::rightPressDeletesKey_data()
@@ -359,72 +360,64 @@ void tst_QVisemeCurveWidgetLite::rightPressDeletesKey()
     if (!keys.isEmpty())
         expected << selChanged(keys.at(selectedAfter));
     QCOMPARE(m_log, expected);
-    QCOMPARE(m_widget->GetSelPtValue(),
-             keys.isEmpty() ? 0.0f : float(keys.at(selectedAfter).y() * 100));
     // The release that follows still reports the slot.
     QTest::mouseRelease(m_widget, Qt::RightButton, Qt::NoModifier, pos);
     QCOMPARE(m_log.mid(expected.size()), kApplied);
 }
 
-void tst_QVisemeCurveWidgetLite::releaseNeedsSlotInUse()
-{
-    CVisemeUIData data;
-    data.m_lstKeys = { QPointF(0, 0), QPointF(1, 0) };
-    data.m_strName = QStringLiteral("AA");
-    m_widget->SetVisemeData(0, data);
-    // A named slot takes new keys even while free, but a free slot neither selects nor reports.
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
-    QCOMPARE(slot(0).m_lstKeys.size(), 3);
-    QCOMPARE(slot(0).m_nSelectedKey, 0);
-    QVERIFY(m_log.isEmpty());
-
-    // A selection past the end still reports, and deletes nothing.
-    slot(0).m_bInUse = true;
-    slot(0).m_nSelectedKey = 5;
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
-    QCOMPARE(m_log, kApplied);
-    QCOMPARE(slot(0).m_lstKeys.size(), 3);
-}
-
-void tst_QVisemeCurveWidgetLite::selectedKeyValue()
-{
-    useSlot(0, QStringLiteral("AA"), { QPointF(0, 0), QPointF(0.5, 0.375) });
-    slot(0).m_nSelectedKey = 1;
-    QCOMPARE(m_widget->GetSelPtValue(), 37.5f);
-    m_widget->SetSelKeyValue(250);
-    QCOMPARE(slot(0).m_lstKeys.at(1), QPointF(0.5, 2.5));
-    slot(0).m_nSelectedKey = 2;
-    QCOMPARE(m_widget->GetSelPtValue(), 0.0f);
-    m_widget->SetSelKeyValue(10);
-    QCOMPARE(slot(0).m_lstKeys.at(1), QPointF(0.5, 2.5));
-    QVERIFY(m_log.isEmpty());
-    // Keys far outside the area still paint.
-    QVERIFY(!m_widget->grab().isNull());
-}
-
 void tst_QVisemeCurveWidgetLite::dropListItemClaimsSlot()
 {
     useSlot(0, QStringLiteral("AA"), { QPointF(0, 0), QPointF(1, 0.5) });
-    m_buttons.at(0)->setText(QStringLiteral("AA"));
     m_buttons.at(0)->setChecked(true);
 
-    const QString name = QStringLiteral("EE");
-    std::unique_ptr<QMimeData> data(mime(kListItemFormat, &name));
-    QVERIFY(VelaTest::dropAt(m_widget, m_buttons.at(2)->geometry().center(), data.get()));
-    QCOMPARE(m_buttons.at(2)->text(), name);
+    QMimeData data;
+    data.setData(kListItemFormat, QByteArray());
+    data.setText(QStringLiteral("EE"));
+    QVERIFY(VelaTest::dropAt(m_widget, m_buttons.at(2)->geometry().center(), &data));
+    QCOMPARE(state(2), QStringLiteral("EE/EE/1/2"));
     QVERIFY(m_buttons.at(2)->isChecked());
-    QCOMPARE(slot(2).m_strName, name);
-    QVERIFY(slot(2).m_bInUse);
     // Every slot without keys now has its end keys; slot 0 keeps its own.
-    QCOMPARE(slot(2).m_lstKeys, Keys({ QPointF(0, 0), QPointF(1, 0) }));
-    QCOMPARE(slot(7).m_lstKeys, Keys({ QPointF(0, 0), QPointF(1, 0) }));
+    QCOMPARE(slot(2).m_lstKeys, kEnds);
+    QCOMPARE(slot(7).m_lstKeys, kEnds);
     QCOMPARE(slot(0).m_lstKeys, Keys({ QPointF(0, 0), QPointF(1, 0.5) }));
     QCOMPARE(m_log, kApplied);
 
     // Slot 2 is now the current one: a press adds its key there.
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+    click(QPoint(100, 100));
     QCOMPARE(slot(2).m_lstKeys.size(), 3);
     QCOMPARE(slot(0).m_lstKeys.size(), 2);
+}
+
+void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QString>("text"); // none when null
+    QTest::addColumn<int>("button");
+    QTest::newRow("list item shown already") << kListItemFormat << QStringLiteral("FV") << 4;
+    // Free buttons show no text, so a nameless viseme counts as shown already.
+    QTest::newRow("list item without text") << kListItemFormat << QString() << 1;
+    QTest::newRow("button onto a button") << kButtonFormat << QStringLiteral("ignored") << 8;
+    QTest::newRow("other data") << QString() << QStringLiteral("EE") << 2;
+}
+
+void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing()
+{
+    QFETCH(QString, format);
+    QFETCH(QString, text);
+    QFETCH(int, button);
+    useSlot(3, QStringLiteral("FV"), { QPointF(0, 0) });
+    QMimeData data;
+    if (!format.isEmpty())
+        data.setData(format, QByteArray());
+    if (!text.isNull())
+        data.setText(text);
+    const bool accepted =
+        VelaTest::dropAt(m_widget, m_buttons.at(button)->geometry().center(), &data);
+    QVERIFY(accepted || format == kButtonFormat);
+    QCOMPARE(state(button), QStringLiteral("//0/0"));
+    QVERIFY(!m_buttons.at(button)->isChecked());
+    QCOMPARE(state(3), QStringLiteral("FV/FV/1/1"));
+    QVERIFY(m_log.isEmpty());
 }
 
 void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot_data()
@@ -442,21 +435,16 @@ void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot()
     QFETCH(bool, checked);
     QFETCH(bool, otherNamed);
     QFETCH(int, expectedChecked);
-    if (otherNamed) {
+    if (otherNamed)
         useSlot(5, QStringLiteral("OO"), { QPointF(0, 0) });
-        m_buttons.at(5)->setText(QStringLiteral("OO"));
-    }
-    useSlot(3, QStringLiteral("FV"), { QPointF(0, 0), QPointF(1, 0) });
-    m_buttons.at(3)->setText(QStringLiteral("FV"));
+    useSlot(3, QStringLiteral("FV"), kEnds);
     m_buttons.at(3)->setChecked(checked);
 
     // The button drag carries no text: the slot comes from the widget's own state.
-    std::unique_ptr<QMimeData> data(mime(kButtonFormat));
-    QVERIFY(VelaTest::dropAt(m_widget, QPoint(120, 120), data.get()));
-    QVERIFY(m_buttons.at(3)->text().isEmpty());
-    QVERIFY(slot(3).m_strName.isEmpty());
-    QVERIFY(slot(3).m_lstKeys.isEmpty());
-    QVERIFY(!slot(3).m_bInUse);
+    QMimeData data;
+    data.setData(kButtonFormat, QByteArray());
+    QVERIFY(VelaTest::dropAt(m_widget, QPoint(120, 120), &data));
+    QCOMPARE(state(3), QStringLiteral("//0/0"));
     QCOMPARE(m_log, kApplied);
     for (int i = 0; i < 12; ++i) {
         if (i != 3)
@@ -466,46 +454,8 @@ void tst_QVisemeCurveWidgetLite::dropButtonFreesCurrentSlot()
     // The new current slot receives the next key.
     const int current = expectedChecked >= 0 ? expectedChecked : 3;
     m_widget->AddVisemeData(current, QStringLiteral("XX"));
-    QTest::mouseClick(m_widget, Qt::LeftButton, Qt::NoModifier, QPoint(100, 100));
+    click(QPoint(100, 100));
     QCOMPARE(slot(current).m_lstKeys.size(), 1);
-}
-
-void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QString>("text"); // none when null
-    QTest::addColumn<int>("button");
-    const QString item(kListItemFormat), button(kButtonFormat);
-    QTest::newRow("list item shown already") << item << QStringLiteral("FV") << 4;
-    // Free buttons show no text, so a nameless viseme counts as shown already.
-    QTest::newRow("list item without text") << item << QString() << 1;
-    QTest::newRow("button onto a button") << button << QStringLiteral("ignored") << 8;
-    QTest::newRow("other data") << QString() << QStringLiteral("EE") << 2;
-}
-
-void tst_QVisemeCurveWidgetLite::dropsThatChangeNothing()
-{
-    QFETCH(QString, format);
-    QFETCH(QString, text);
-    QFETCH(int, button);
-    useSlot(3, QStringLiteral("FV"), { QPointF(0, 0) });
-    m_buttons.at(3)->setText(QStringLiteral("FV"));
-    QMimeData data;
-    if (!format.isEmpty())
-        data.setData(format, QByteArray());
-    if (!text.isNull())
-        data.setText(text);
-    const bool accepted =
-        VelaTest::dropAt(m_widget, m_buttons.at(button)->geometry().center(), &data);
-    QVERIFY(accepted || format == QLatin1String(kButtonFormat));
-    QVERIFY(m_buttons.at(button)->text().isEmpty());
-    QVERIFY(!m_buttons.at(button)->isChecked());
-    QVERIFY(!slot(button).m_bInUse);
-    QVERIFY(slot(button).m_lstKeys.isEmpty());
-    QCOMPARE(m_buttons.at(3)->text(), QStringLiteral("FV"));
-    QCOMPARE(slot(3).m_strName, QStringLiteral("FV"));
-    QCOMPARE(slot(3).m_lstKeys.size(), 1);
-    QVERIFY(m_log.isEmpty());
 }
 
 void tst_QVisemeCurveWidgetLite::paintsEveryNamedSlot()
@@ -523,14 +473,14 @@ void tst_QVisemeCurveWidgetLite::paintsEveryNamedSlot()
     const QImage image = m_widget->grab().toImage();
     // The current slot's curve lies under its markers; every other curve shows.
     for (int i = 0; i < 9; ++i)
-        QCOMPARE(countColor(image, slot(i).m_kColor) > 0, i != 4);
+        QCOMPARE(countPixels(image, image.rect(), slot(i).m_kColor) > 0, i != 4);
 
     // A free or nameless slot is not drawn.
     slot(7).m_bInUse = false;
     slot(3).m_strName.clear();
     const QImage fewer = m_widget->grab().toImage();
-    QCOMPARE(countColor(fewer, slot(7).m_kColor), 0);
-    QCOMPARE(countColor(fewer, slot(3).m_kColor), 0);
+    QCOMPARE(countPixels(fewer, fewer.rect(), slot(7).m_kColor), 0);
+    QCOMPARE(countPixels(fewer, fewer.rect(), slot(3).m_kColor), 0);
 }
 
 void tst_QVisemeCurveWidgetLite::weightLabelStaysInside_data()
@@ -561,12 +511,12 @@ void tst_QVisemeCurveWidgetLite::weightLabelStaysInside()
     const QRect right(key.x() + 9, key.y() - 8, 18, 8);
     const QRect left(key.x() - 27, key.y() - 8, 18, 8);
     QImage image = bare.grab().toImage();
-    QCOMPARE(darkPixels(image, leftSide ? right : left), 0);
-    QVERIFY(darkPixels(image, leftSide ? left : right) > 0);
+    QCOMPARE(countPixels(image, leftSide ? right : left), 0);
+    QVERIFY(countPixels(image, leftSide ? left : right) > 0);
 
     bare.SetShowWeightingAtPoint(false);
     image = bare.grab().toImage();
-    QCOMPARE(darkPixels(image, left) + darkPixels(image, right), 0);
+    QCOMPARE(countPixels(image, left) + countPixels(image, right), 0);
 }
 
 void tst_QVisemeCurveWidgetLite::beforeInitAndTimeCursor()
@@ -581,15 +531,13 @@ void tst_QVisemeCurveWidgetLite::beforeInitAndTimeCursor()
 
     bare.Init();
     // No length yet: no cursor, and no trouble.
-    QImage image = bare.grab().toImage();
-    QCOMPARE(darkPixels(image, QRect(20, 100, 240, 1)), 0);
+    QCOMPARE(countPixels(bare.grab().toImage(), QRect(20, 100, 240, 1)), 0);
 
     // Half of the span: (271 - 15 + 1) / 2 + 15 = 143.5.
     bare.SetTimeLength(2.0f, 4.0f);
-    image = bare.grab().toImage();
-    const int dark = darkPixels(image, QRect(143, 100, 2, 1));
-    QCOMPARE(dark, 1);
-    QCOMPARE(darkPixels(image, QRect(20, 100, 240, 1)), 1);
+    const QImage image = bare.grab().toImage();
+    QCOMPARE(countPixels(image, QRect(143, 100, 2, 1)), 1);
+    QCOMPARE(countPixels(image, QRect(20, 100, 240, 1)), 1);
 }
 
 VELA_TEST_CLASS(tst_QVisemeCurveWidgetLite)

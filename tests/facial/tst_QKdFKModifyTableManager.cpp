@@ -10,6 +10,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -26,41 +27,21 @@ public:
 };
 
 // The parentless cells InitManager leaves behind, taken over (and freed) by the test, by id.
-class MadeCells
+using Cells = std::vector<std::unique_ptr<CKdFKModifyCellWidget>>;
+Cells MadeCells()
 {
-public:
-    MadeCells()
-    {
-        for (QWidget *pkWidget : QApplication::topLevelWidgets()) {
-            if (CKdFKModifyCellWidget *pkCell = qobject_cast<CKdFKModifyCellWidget *>(pkWidget))
-                m_kCells.append(pkCell);
-        }
-        std::sort(m_kCells.begin(), m_kCells.end(),
-                  [](CKdFKModifyCellWidget *a, CKdFKModifyCellWidget *b) {
-                      return a->GetID() < b->GetID();
-                  });
+    Cells kCells;
+    for (QWidget *pkWidget : QApplication::topLevelWidgets()) {
+        if (CKdFKModifyCellWidget *pkCell = qobject_cast<CKdFKModifyCellWidget *>(pkWidget))
+            kCells.emplace_back(pkCell);
     }
-    ~MadeCells() { qDeleteAll(m_kCells); }
-
-    int Count() const { return m_kCells.size(); }
-    CKdFKModifyCellWidget *At(int nID) const { return m_kCells.value(nID); }
-
-private:
-    QVector<CKdFKModifyCellWidget *> m_kCells;
-};
-
-// First cell id and channel count of each section, in section order.
-struct SectionSpan
-{
-    int nFirstID;
-    int nCount;
-};
-const SectionSpan kSpans[] = { { 0, 8 }, { 8, 7 }, { 15, 10 }, { 25, 39 }, { 64, 64 } };
-
-QString WriteIni(const QTemporaryDir &kDir, const QByteArray &kContent)
-{
-    return VelaTest::writeFile(kDir.path(), QStringLiteral("facial.ini"), kContent);
+    std::sort(kCells.begin(), kCells.end(),
+              [](const auto &a, const auto &b) { return a->GetID() < b->GetID(); });
+    return kCells;
 }
+
+// The channel count of each section, in section order; the cell ids run on across sections.
+const int kChannels[] = { 8, 7, 10, 39, 64 };
 
 // A complete file in which every channel key is "<Section>_<index>" with one range for all.
 QByteArray CompleteIni(const QByteArray &kSliderRange, const QByteArray &kSpinRange)
@@ -72,7 +53,7 @@ QByteArray CompleteIni(const QByteArray &kSliderRange, const QByteArray &kSpinRa
     QByteArray kSpin("[SpinBoxExtreme]\n");
     for (int nSection = 0; nSection < 5; ++nSection) {
         kSections += QByteArray("[") + kGroups[nSection] + "]\n";
-        for (int nIndex = 0; nIndex < kSpans[nSection].nCount; ++nIndex) {
+        for (int nIndex = 0; nIndex < kChannels[nSection]; ++nIndex) {
             const QByteArray kKey = QByteArray("S") + QByteArray::number(nSection) + "_"
                 + QByteArray::number(nIndex).rightJustified(2, '0');
             kSections += kKey + "=channel\n";
@@ -97,16 +78,11 @@ public:
     explicit TableRecorder(QKdFKModifyTableManager *pkTable)
     {
         const auto cell = [this](const char *pcWhat) {
-            return [this, pcWhat](int nID) {
-                kEvents << QStringLiteral("%1 %2").arg(pcWhat).arg(nID);
-            };
+            return [this, pcWhat](int nID) { kEvents << QString::asprintf("%s %d", pcWhat, nID); };
         };
         const auto index = [this](const char *pcWhat) {
             return [this, pcWhat](const QModelIndex &kIndex) {
-                kEvents << QStringLiteral("%1 %2,%3")
-                               .arg(pcWhat)
-                               .arg(kIndex.row())
-                               .arg(kIndex.column());
+                kEvents << QString::asprintf("%s %d,%d", pcWhat, kIndex.row(), kIndex.column());
             };
         };
         connect(pkTable, &QKdFKModifyTableManager::BeginChangeCellSlider, this, cell("begin"));
@@ -179,19 +155,20 @@ void tst_QKdFKModifyTableManager::initManagerWithSample()
     kTable.setModel(&kModel);
     const int nDefaultHeight = kTable.rowHeight(129);
     kTable.InitManager(kSampleIni);
-    MadeCells kCells;
+    const Cells kCells = MadeCells();
 
-    QCOMPARE(kCells.Count(), 128);
+    QCOMPARE(int(kCells.size()), 128);
     // Every channel of a section has its section's ranges from the sample file.
     const QVector<int> kExpected[] = { { 0, 100, -50, 150 },
                                        { 0, 100, 0, 100 },
                                        { 0, 100, -100, 200 },
                                        { -20, 100, -50, 150 },
                                        { -100, 100, -200, 200 } };
+    int nID = 0;
     for (int nSection = 0; nSection < 5; ++nSection) {
-        for (int nIndex = 0; nIndex < kSpans[nSection].nCount; ++nIndex) {
-            CKdFKModifyCellWidget *pkCell = kCells.At(kSpans[nSection].nFirstID + nIndex);
-            QCOMPARE(pkCell->GetID(), kSpans[nSection].nFirstID + nIndex);
+        for (int nIndex = 0; nIndex < kChannels[nSection]; ++nIndex, ++nID) {
+            CKdFKModifyCellWidget *pkCell = kCells.at(nID).get();
+            QCOMPARE(pkCell->GetID(), nID);
             QCOMPARE(pkCell->GetValue(), 0);
             QCOMPARE(RangesOf(pkCell), kExpected[nSection]);
         }
@@ -224,23 +201,17 @@ void tst_QKdFKModifyTableManager::badIniFiles_data()
     row("unknown group, odd spacing", kComplete + "\n[Unknown]\n  odd  =  spacing , here ;x\n", 100,
         kFile);
 
-    QByteArray kNoSpin = kComplete;
-    kNoSpin.truncate(kNoSpin.indexOf("[SpinBoxExtreme]"));
-    row("spin group missing", kNoSpin, 30, { 0, 60, -50, 100 });
-
-    QByteArray kNoMouth = kComplete;
-    kNoMouth.replace("[MouthModifyString]", "[SomethingElse]");
+    row("spin group missing", kComplete.left(kComplete.indexOf("[SpinBoxExtreme]")), 30,
+        { 0, 60, -50, 100 });
+    const QByteArray kNoMouth =
+        QByteArray(kComplete).replace("[MouthModifyString]", "[SomethingElse]");
     row("section group missing", kNoMouth, 30, kDefault);
     row("section after it intact", kNoMouth, 64, kFile);
-
-    QByteArray kFewKeys = kComplete;
-    kFewKeys.replace("S0_07=channel\n", "");
+    const QByteArray kFewKeys = QByteArray(kComplete).replace("S0_07=channel\n", "");
     row("fewer keys than channels", kFewKeys, 7, kDefault);
     row("fewer keys, others intact", kFewKeys, 6, kFile);
-
-    QByteArray kMissingRange = kComplete;
-    kMissingRange.replace("S2_03=0, 60\n", "");
-    row("range key missing", kMissingRange, 18, { -50, 100, -10, 90 });
+    row("range key missing", QByteArray(kComplete).replace("S2_03=0, 60\n", ""), 18,
+        { -50, 100, -10, 90 });
 
     row("spaced extremes", CompleteIni(" -5 ,  15 ", "-10 ,90"), 3, { -5, 15, -10, 90 });
     row("reversed extremes", CompleteIni("100, 0", "150, -150"), 3, { 0, 100, -150, 150 });
@@ -251,9 +222,8 @@ void tst_QKdFKModifyTableManager::badIniFiles_data()
 
     row("oversized file", kComplete + ";" + QByteArray(5 * 1024 * 1024, 'x') + "\n", 3, kDefault);
 
-    QByteArray kNonAscii = kComplete;
-    kNonAscii.replace("S0_00", "S0_00_Augenbraue_\xc3\xa4_\xe7\x9c\x89");
-    row("non-ASCII key", kNonAscii, 0, kFile);
+    row("non-ASCII key",
+        QByteArray(kComplete).replace("S0_00", "S0_00_Augenbraue_\xc3\xa4_\xe7\x9c\x89"), 0, kFile);
 }
 
 void tst_QKdFKModifyTableManager::badIniFiles()
@@ -265,16 +235,17 @@ void tst_QKdFKModifyTableManager::badIniFiles()
     QFETCH(int, nValue);
 
     QTemporaryDir kDir;
-    const QString strPath =
-        bWrite ? WriteIni(kDir, kContent) : kDir.filePath(QStringLiteral("missing.ini"));
+    const QString strPath = bWrite
+        ? VelaTest::writeFile(kDir.path(), QStringLiteral("facial.ini"), kContent)
+        : kDir.filePath(QStringLiteral("missing.ini"));
 
     QKdFKModifyTableManager kTable;
     kTable.InitManager(strPath);
-    MadeCells kCells;
-    QCOMPARE(kCells.Count(), 128);
+    const Cells kCells = MadeCells();
+    QCOMPARE(int(kCells.size()), 128);
 
-    QCOMPARE(RangesOf(kCells.At(nCheckedID)), kRanges);
-    QCOMPARE(kCells.At(nCheckedID)->GetValue(), nValue);
+    QCOMPARE(RangesOf(kCells.at(nCheckedID).get()), kRanges);
+    QCOMPARE(kCells.at(nCheckedID)->GetValue(), nValue);
     QCOMPARE(QFile::exists(strPath), bWrite);
     // Qt would normalise the file on any write: the bytes stay exactly as the host wrote them.
     QFile kFile(strPath);
@@ -287,34 +258,28 @@ void tst_QKdFKModifyTableManager::valuesFromOutsideSilenceEdits()
     CKdFKModifyCellWidget kCell;
     kCell.SetItem(12, 0, QStringLiteral("Squint"), { 0, 100 }, { 0, 100 }, &kTable);
     TableRecorder kRecorder(&kTable);
-    const auto edit = [&kTable](CKdFKModifyCellWidget *pkCell) {
+    // What one edit of pkCell, from its start to a rename, reports.
+    const auto edit = [&kTable, &kRecorder](CKdFKModifyCellWidget *pkCell) {
+        kRecorder.kEvents.clear();
         kTable.BeginEditSlider(pkCell);
         kTable.UpdateSliderValues(pkCell);
         kTable.StopEditSlider(pkCell);
         kTable.RenameSlider(pkCell);
+        return kRecorder.kEvents;
     };
 
-    edit(nullptr);
-    QVERIFY(kRecorder.kEvents.isEmpty());
-    edit(&kCell);
+    QVERIFY(edit(nullptr).isEmpty());
     const QStringList kSession({ "begin 12", "change 12", "stop 12", "rename 12" });
-    QCOMPARE(kRecorder.kEvents, kSession);
-
-    kRecorder.kEvents.clear();
+    QCOMPARE(edit(&kCell), kSession);
     kTable.SetValuesFromOutside(true);
-    edit(&kCell);
-    QCOMPARE(kRecorder.kEvents, QStringList({ "rename 12" }));
+    QCOMPARE(edit(&kCell), QStringList({ "rename 12" }));
 
     // Pushing weights or enable states in ends the outside phase.
-    kRecorder.kEvents.clear();
     kTable.SetWeights({ 0.5f }, {}, {});
-    edit(&kCell);
-    QCOMPARE(kRecorder.kEvents, kSession);
-    kRecorder.kEvents.clear();
+    QCOMPARE(edit(&kCell), kSession);
     kTable.SetValuesFromOutside(true);
     kTable.SetEnable({ true }, { false }, {});
-    edit(&kCell);
-    QCOMPARE(kRecorder.kEvents, kSession);
+    QCOMPARE(edit(&kCell), kSession);
 }
 
 void tst_QKdFKModifyTableManager::fixedAccessors()

@@ -65,10 +65,8 @@ class tst_QKdFKTemplateTableManager : public QObject
 private slots:
     void initManager();
     void sampleFolder();
-    void gridLimits_data();
-    void gridLimits();
-    void noTemplates_data();
-    void noTemplates();
+    void updateTable_data();
+    void updateTable();
     void badThumbnails_data();
     void badThumbnails();
     void unusualFileNames();
@@ -117,21 +115,31 @@ void tst_QKdFKTemplateTableManager::sampleFolder()
     QCOMPARE(qAlpha(kIcon.pixel(31, 11)), 255);
 }
 
-void tst_QKdFKTemplateTableManager::gridLimits_data()
+void tst_QKdFKTemplateTableManager::updateTable_data()
 {
+    QTest::addColumn<QString>("strFolder"); // how the folder is given, empty: a real folder
     QTest::addColumn<int>("nColumns");
     QTest::addColumn<int>("nRows");
     QTest::addColumn<int>("nFiles");
     QTest::addColumn<int>("nShown");
-
-    QTest::newRow("3x2, 8 files") << 3 << 2 << 8 << 6;
-    QTest::newRow("3x2, 4 files") << 3 << 2 << 4 << 4;
-    QTest::newRow("1x3, 5 files") << 1 << 3 << 5 << 3;
-    QTest::newRow("4x-2, 5 files") << 4 << -2 << 5 << 0;
+    const auto row = [](const char *pcName, int nColumns, int nRows, int nFiles, int nShown,
+                        const char *pcFolder = "") {
+        QTest::newRow(pcName) << QString(pcFolder) << nColumns << nRows << nFiles << nShown;
+    };
+    row("3x2, 8 files", 3, 2, 8, 6);
+    row("3x2, 4 files", 3, 2, 4, 4);
+    row("1x3, 5 files", 1, 3, 5, 3);
+    row("4x-2, 5 files", 4, -2, 5, 0);
+    // No templates found: the grid of the requested size remains, every cell inert.
+    row("empty folder", 3, 2, 0, 0);
+    row("missing folder", 3, 2, 0, 0, "missing");
+    row("a file, not a folder", 3, 2, 0, 0, "file");
+    row("empty path", 3, 2, 0, 0, "none");
 }
 
-void tst_QKdFKTemplateTableManager::gridLimits()
+void tst_QKdFKTemplateTableManager::updateTable()
 {
+    QFETCH(QString, strFolder);
     QFETCH(int, nColumns);
     QFETCH(int, nRows);
     QFETCH(int, nFiles);
@@ -147,52 +155,27 @@ void tst_QKdFKTemplateTableManager::gridLimits()
     const int nRowCount = qMax(0, nRows);
     while (kExpected.size() < nRowCount * nColumns)
         kExpected << QString();
+    if (strFolder == QLatin1String("missing"))
+        strFolder = kDir.filePath(QStringLiteral("missing"));
+    else if (strFolder == QLatin1String("file"))
+        strFolder = VelaTest::writeFile(kDir.path(), QStringLiteral("templates"), "not a folder");
+    else if (strFolder.isEmpty())
+        strFolder = kDir.path();
+    else
+        strFolder.clear();
 
     QKdFKTemplateTableManager kTable;
     kTable.InitManager(nColumns, 16, 16);
     // Over a grid filled before: the new one replaces it.
     QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 4));
-    QVERIFY(kTable.UpdateTable(kDir.path(), QString(), nRows));
+    QCOMPARE(kTable.UpdateTable(strFolder, QString(), nRows), nFiles > 0);
     QCOMPARE(kTable.rowCount(), nRowCount);
     QCOMPARE(kTable.columnCount(), nColumns);
     QCOMPARE(Captions(kTable), kExpected);
-}
-
-void tst_QKdFKTemplateTableManager::noTemplates_data()
-{
-    QTest::addColumn<QString>("strCase");
-    QTest::newRow("missing folder") << "missing";
-    QTest::newRow("empty folder") << "empty";
-    QTest::newRow("a file, not a folder") << "file";
-    QTest::newRow("empty path") << "";
-}
-
-void tst_QKdFKTemplateTableManager::noTemplates()
-{
-    QFETCH(QString, strCase);
-
-    QTemporaryDir kDir;
-    QString strFolder = kDir.filePath(QStringLiteral("templates"));
-    if (strCase == QLatin1String("empty")) {
-        QVERIFY(QDir().mkpath(strFolder));
-    } else if (strCase == QLatin1String("file")) {
-        VelaTest::writeFile(kDir.path(), QStringLiteral("templates"), "not a folder");
-    } else if (strCase.isEmpty()) {
-        strFolder.clear();
-    }
-
-    QKdFKTemplateTableManager kTable;
-    kTable.InitManager(3, 32, 32);
-    QVERIFY(kTable.UpdateTable(kSampleFolder, QString(), 1));
-    QVERIFY(!kTable.UpdateTable(strFolder, QString(), 2));
-
-    // The grid of the requested size remains, every cell inert.
-    QCOMPARE(kTable.rowCount(), 2);
-    for (int nRow = 0; nRow < 2; ++nRow) {
-        for (int nColumn = 0; nColumn < 3; ++nColumn) {
-            QVERIFY(kTable.item(nRow, nColumn));
-            QCOMPARE(kTable.item(nRow, nColumn)->flags(), Qt::NoItemFlags);
-        }
+    for (int nCell = 0; nCell < nRowCount * nColumns; ++nCell) {
+        const QTableWidgetItem *pkItem = kTable.item(nCell / nColumns, nCell % nColumns);
+        QVERIFY(pkItem);
+        QCOMPARE(pkItem->flags() == Qt::NoItemFlags, nCell >= nShown);
     }
 }
 
