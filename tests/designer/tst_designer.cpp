@@ -66,82 +66,53 @@ const Row kRows[] = {
 
 static_assert(sizeof(kRows) / sizeof(kRows[0]) == 31, "the collection offers 31 widgets");
 
-QString descriptorName(const Row &row)
+// A form loader that finds the collection in the build folder only.
+class BuildLoader : public QUiLoader
 {
-    const QString name = QLatin1String(row.name);
-    return name == QLatin1String("QColorButton2") ? QStringLiteral("QColorButtonPlugin2")
-                                                  : name + QLatin1String("Plugin");
-}
-
-struct ParsedXml
-{
-    QString widgetClass;
-    QString objectName;
-    QRect geometry;
-    QStringList properties;
-    QString extends;
-    QString customClass;
-    bool hasAddPageMethod = false;
-    bool hasUiElement = false;
+public:
+    BuildLoader()
+    {
+        clearPluginPaths();
+        addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
+    }
 };
 
-ParsedXml parseDomXml(const QString &xml, QString *error)
+// The default XML of a row. Style A: the bare widget element, one element per line, indented by
+// one space per level. The one-line forms: the elements separated by runs of 25 ('1', also before
+// the first element) or 26 spaces ('2'), the widget declared as a custom widget extending QWidget
+// with an addPage method ('1') or its standard base ('2', which also names its properties).
+QString expectedDomXml(const Row &row)
 {
-    ParsedXml parsed;
-    QXmlStreamReader reader(xml);
-    QString current;
-    bool inGeometry = false;
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement()) {
-            const QStringRef name = reader.name();
-            if (name == QLatin1String("ui")) {
-                parsed.hasUiElement = true;
-                if (reader.attributes().value(QLatin1String("language")) != QLatin1String("c++"))
-                    *error = QStringLiteral("language is not c++");
-            } else if (name == QLatin1String("widget") && parsed.widgetClass.isEmpty()) {
-                parsed.widgetClass = reader.attributes().value(QLatin1String("class")).toString();
-                parsed.objectName = reader.attributes().value(QLatin1String("name")).toString();
-            } else if (name == QLatin1String("property")) {
-                const QString prop = reader.attributes().value(QLatin1String("name")).toString();
-                parsed.properties << prop;
-                inGeometry = prop == QLatin1String("geometry");
-            } else if (name == QLatin1String("addpagemethod")) {
-                parsed.hasAddPageMethod = true;
-            }
-            current = name.toString();
-        } else if (reader.isCharacters() && !reader.isWhitespace()) {
-            const QString text = reader.text().toString();
-            if (inGeometry && current == QLatin1String("x"))
-                parsed.geometry.moveLeft(text.toInt());
-            else if (inGeometry && current == QLatin1String("y"))
-                parsed.geometry.moveTop(text.toInt());
-            else if (inGeometry && current == QLatin1String("width"))
-                parsed.geometry.setWidth(text.toInt());
-            else if (inGeometry && current == QLatin1String("height"))
-                parsed.geometry.setHeight(text.toInt());
-            else if (current == QLatin1String("extends"))
-                parsed.extends = text;
-            else if (current == QLatin1String("class"))
-                parsed.customClass = text;
-            else if (current == QLatin1String("enum"))
-                parsed.properties.last() += QLatin1Char('=') + text;
-        } else if (reader.isEndElement() && reader.name() == QLatin1String("property")) {
-            inGeometry = false;
-        }
-    }
-    if (reader.hasError())
-        *error = reader.errorString();
-    return parsed;
-}
-
-QString formFor(const Row &row, const QString &domXml)
-{
-    if (row.style != 'A')
-        return domXml;
-    return QStringLiteral("<ui version=\"4.0\"><class>Form</class>"
-                          "<widget class=\"QWidget\" name=\"Form\">%1</widget></ui>")
-        .arg(domXml);
+    const QString name = QLatin1String(row.name);
+    if (row.style == 'A')
+        return QStringLiteral("<widget class=\"%1\" name=\"%2\">\n <property name=\"geometry\">\n"
+                              "  <rect>\n   <x>0</x>\n   <y>0</y>\n   <width>%3</width>\n"
+                              "   <height>%4</height>\n  </rect>\n </property>\n</widget>\n")
+            .arg(name, QLatin1String(row.objectName))
+            .arg(row.width)
+            .arg(row.height);
+    // '|' stands for a run of spaces.
+    QString properties;
+    if (row.width)
+        properties = QStringLiteral("|<property name=\"geometry\">|<rect>|<x>0</x>|<y>0</y>"
+                                    "|<width>%1</width>|<height>%2</height>|</rect>|</property>")
+                         .arg(row.width)
+                         .arg(row.height);
+    if (qstrcmp(row.name, "QSliderEx") == 0)
+        properties += QLatin1String(
+            "|<property name=\"orientation\">|<enum>Qt::Horizontal</enum>|</property>");
+    if (row.style == '2')
+        properties += QLatin1String(
+            "|<property name=\"focusPolicy\">|<enum>Qt::StrongFocus</enum>|</property>");
+    const bool one = row.style == '1';
+    QString xml =
+        QStringLiteral("%1<ui language=\"c++\">|<widget class=\"%2\" name=\"%3\">%4|</widget>"
+                       "|<customwidgets>|<customwidget>|<class>%2</class>|<extends>%5</extends>"
+                       "%6|</customwidget>|</customwidgets>|</ui>")
+            .arg(one ? QStringLiteral("|") : QString(), name, QLatin1String(row.objectName),
+                 properties, one ? QStringLiteral("QWidget") : name.chopped(2),
+                 one ? QStringLiteral("|<addpagemethod>addPage</addpagemethod>") : QString());
+    return xml.replace(QLatin1Char('|'), QString(one ? 25 : 26, QLatin1Char(' ')));
 }
 
 } // namespace
@@ -153,19 +124,19 @@ class tst_Designer : public QObject
 private slots:
     void initTestCase();
     void cleanupTestCase();
-    void metaData();
-    void instanceLifetime();
-    void descriptorOrder();
+    void collection();
     void descriptors_data();
     void descriptors();
-    void uiLoaderCreatesEveryWidget_data();
-    void uiLoaderCreatesEveryWidget();
     void uiLoaderLoadsSavedForms();
     void uiLoaderLoadsLibraryForms_data();
     void uiLoaderLoadsLibraryForms();
 
 private:
-    QList<QDesignerCustomWidgetInterface *> widgets() const;
+    QList<QDesignerCustomWidgetInterface *> widgets() const
+    {
+        return qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection)
+            ->customWidgets();
+    }
 
     QPluginLoader m_loader;
     QPointer<QObject> m_collection;
@@ -185,7 +156,10 @@ void tst_Designer::cleanupTestCase()
     m_loader.unload();
 }
 
-void tst_Designer::metaData()
+// The metadata names the interface and the class and carries no user data. One collection per
+// library, made again after Designer deletes it; its descriptors go with it, and the new one
+// lists all of them again in the same order.
+void tst_Designer::collection()
 {
     const QJsonObject meta = m_loader.metaData();
     QCOMPARE(meta.value(QLatin1String("IID")).toString(),
@@ -194,12 +168,7 @@ void tst_Designer::metaData()
              QStringLiteral("VelaQtCustomWidgetsPlugin"));
     QVERIFY(meta.value(QLatin1String("MetaData")).toObject().isEmpty());
     QCOMPARE(meta.value(QLatin1String("debug")).toBool(), false);
-}
 
-void tst_Designer::instanceLifetime()
-{
-    // One collection per library, made again after Designer deletes it; its descriptors go
-    // with it.
     QLibrary library(QStringLiteral(VELA_LIBRARY_FILE));
     using InstanceFunction = QObject *(*)();
     auto instance = reinterpret_cast<InstanceFunction>(library.resolve("qt_plugin_instance"));
@@ -207,30 +176,24 @@ void tst_Designer::instanceLifetime()
     QObject *first = instance();
     QCOMPARE(first, m_collection.data());
     QPointer<QObject> oldDescriptor = dynamic_cast<QObject *>(widgets().first());
-
     delete first;
     QVERIFY(oldDescriptor.isNull());
     QObject *second = instance();
     QVERIFY(second);
     QCOMPARE(instance(), second);
     m_collection = second;
-    QCOMPARE(widgets().size(), 31);
-}
 
-void tst_Designer::descriptorOrder()
-{
     QStringList descriptors, expected;
     for (QDesignerCustomWidgetInterface *widget : widgets())
         descriptors << widget->name() + QLatin1Char(' ')
                 + QLatin1String(dynamic_cast<QObject *>(widget)->metaObject()->className());
-    for (const Row &row : kRows)
-        expected << QLatin1String(row.name) + QLatin1Char(' ') + descriptorName(row);
+    for (const Row &row : kRows) {
+        const QString name = QLatin1String(row.name);
+        expected << name + QLatin1Char(' ')
+                + (name == QLatin1String("QColorButton2") ? QStringLiteral("QColorButtonPlugin2")
+                                                          : name + QLatin1String("Plugin"));
+    }
     QCOMPARE(descriptors, expected);
-}
-
-QList<QDesignerCustomWidgetInterface *> tst_Designer::widgets() const
-{
-    return qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_collection)->customWidgets();
 }
 
 void tst_Designer::descriptors_data()
@@ -240,128 +203,67 @@ void tst_Designer::descriptors_data()
         QTest::newRow(row.name) << int(&row - kRows);
 }
 
+// Each descriptor as Designer uses it, then its default XML placed on a form by QUiLoader.
 void tst_Designer::descriptors()
 {
     QFETCH(int, index);
     const Row &row = kRows[index];
     QDesignerCustomWidgetInterface *d = widgets().value(index);
-    QVERIFY(d);
-    auto *object = dynamic_cast<QObject *>(d);
-    QCOMPARE(object->qt_metacast("org.qt-project.QDesignerCustomWidgetInterface"),
-             static_cast<void *>(d));
-
+    QCOMPARE(
+        dynamic_cast<QObject *>(d)->qt_metacast("org.qt-project.QDesignerCustomWidgetInterface"),
+        static_cast<void *>(d));
     QCOMPARE(d->group(), QStringLiteral("Vela Plugins"));
     QCOMPARE(d->includeFile(), QLatin1String(row.include));
     QCOMPARE(d->isContainer(), row.container);
     QVERIFY(d->toolTip().isEmpty() && d->whatsThis().isEmpty() && d->codeTemplate().isEmpty());
     QVERIFY(d->icon().isNull());
-
     QVERIFY(!d->isInitialized());
     d->initialize(nullptr);
     QVERIFY(d->isInitialized());
 
     const QString xml = d->domXml();
-    QString error;
-    const ParsedXml parsed = parseDomXml(xml, &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    QCOMPARE(parsed.widgetClass, d->name());
-    QCOMPARE(parsed.objectName, QLatin1String(row.objectName));
-    if (row.width)
-        QCOMPARE(parsed.geometry, QRect(0, 0, row.width, row.height));
-    else
-        QVERIFY(!parsed.properties.contains(QLatin1String("geometry")));
-
-    switch (row.style) {
-    case 'A': {
-        QVERIFY(!parsed.hasUiElement);
-        QVERIFY(xml.startsWith(QStringLiteral("<widget class=\"%1\" name=\"%2\">\n")
-                                   .arg(QLatin1String(row.name), QLatin1String(row.objectName))));
-        QVERIFY(xml.contains(QLatin1String("\n   <x>0</x>\n")));
-        QVERIFY(xml.endsWith(QLatin1String("</widget>\n")));
-        QCOMPARE(xml.count(QLatin1Char('\n')), 10);
-        break;
-    }
-    case '1': {
-        const QString run(25, QLatin1Char(' '));
-        QVERIFY(xml.startsWith(run + QLatin1String("<ui language=\"c++\">")));
-        QVERIFY(!xml.contains(QLatin1Char('\n')));
-        QVERIFY(!xml.contains(QString(26, QLatin1Char(' '))));
-        QCOMPARE(xml.count(run), 11);
-        QCOMPARE(parsed.extends, QStringLiteral("QWidget"));
-        QCOMPARE(parsed.customClass, d->name());
-        QVERIFY(parsed.hasAddPageMethod);
-        QVERIFY(parsed.properties.isEmpty());
+    QCOMPARE(xml, expectedDomXml(row));
+    if (row.style == '1') {
         const int lengths[] = { 510, 528, 555 };
         QCOMPARE(xml.size(), lengths[index - 17]);
-        break;
-    }
-    case '2': {
-        QVERIFY(xml.startsWith(QLatin1String("<ui language=\"c++\">")));
-        QVERIFY(xml.contains(QString(26, QLatin1Char(' ')) + QLatin1String("<widget")));
-        QVERIFY(!xml.contains(QString(27, QLatin1Char(' '))));
-        QVERIFY(!xml.contains(QLatin1Char('\n')));
-        QCOMPARE(parsed.extends, QLatin1String(row.name).chopped(2)); // QComboBoxEx: QComboBox
-        QCOMPARE(parsed.customClass, d->name());
-        QVERIFY(!parsed.hasAddPageMethod);
-        QStringList expected;
-        if (row.width)
-            expected << QStringLiteral("geometry");
-        if (qstrcmp(row.name, "QSliderEx") == 0)
-            expected << QStringLiteral("orientation=Qt::Horizontal");
-        expected << QStringLiteral("focusPolicy=Qt::StrongFocus");
-        QCOMPARE(parsed.properties, expected);
-        break;
-    }
     }
 
     QScopedPointer<QWidget> widget(d->createWidget(nullptr));
-    QVERIFY(widget);
     QVERIFY(widget->isWindow());
     QCOMPARE(widget->metaObject()->className(), row.name);
     QWidget parent;
     QWidget *child = d->createWidget(&parent);
     QCOMPARE(child->parentWidget(), &parent);
     QVERIFY(child != widget.data());
-}
 
-void tst_Designer::uiLoaderCreatesEveryWidget_data()
-{
-    descriptors_data();
-}
-
-void tst_Designer::uiLoaderCreatesEveryWidget()
-{
-    QFETCH(int, index);
-    const Row &row = kRows[index];
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
-
-    QByteArray form = formFor(row, widgets().at(index)->domXml()).toUtf8();
+    // Style A is a bare widget element: Designer puts it inside a form.
+    QByteArray form = (row.style != 'A' ? xml
+                                        : QStringLiteral("<ui version=\"4.0\"><class>Form</class>"
+                                                         "<widget class=\"QWidget\" name=\"Form\">"
+                                                         "%1</widget></ui>")
+                                              .arg(xml))
+                          .toUtf8();
     QBuffer buffer(&form);
+    BuildLoader loader;
     QScopedPointer<QWidget> root(loader.load(&buffer));
     QVERIFY2(root, qPrintable(loader.errorString()));
-    QWidget *widget = root->objectName() == QLatin1String(row.objectName)
+    QWidget *placed = root->objectName() == QLatin1String(row.objectName)
         ? root.data()
         : root->findChild<QWidget *>(QLatin1String(row.objectName));
-    QVERIFY(widget);
-    QCOMPARE(widget->metaObject()->className(), row.name);
+    QVERIFY(placed);
+    QCOMPARE(placed->metaObject()->className(), row.name);
     // The form's geometry, as far as the widget's own minimum size allows.
     if (row.width && row.style == 'A')
         QCOMPARE(
-            widget->geometry(),
-            QRect(QPoint(0, 0), QSize(row.width, row.height).expandedTo(widget->minimumSize())));
-    if (row.style == '2')
-        QCOMPARE(widget->focusPolicy(), Qt::StrongFocus);
+            placed->geometry(),
+            QRect(QPoint(0, 0), QSize(row.width, row.height).expandedTo(placed->minimumSize())));
 }
 
 // The forms as a user saves them from Designer: several Ex controls in a layout with their own
 // properties, and all 31 widgets from their default XML, as dragged from the widget box.
 void tst_Designer::uiLoaderLoadsSavedForms()
 {
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
+    BuildLoader loader;
     QFile controls(QStringLiteral(":/forms/controls.ui"));
     QVERIFY(controls.open(QIODevice::ReadOnly));
     QScopedPointer<QWidget> form(loader.load(&controls));
@@ -404,9 +306,7 @@ void tst_Designer::uiLoaderLoadsLibraryForms_data()
 void tst_Designer::uiLoaderLoadsLibraryForms()
 {
     QFETCH(QString, path);
-    QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QStringLiteral(VELA_LIBRARY_DIR));
+    BuildLoader loader;
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
     QScopedPointer<QWidget> root(loader.load(&file));
