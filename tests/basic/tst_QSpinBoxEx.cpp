@@ -76,7 +76,6 @@ void tst_QSpinBoxEx::enterCommitsOnPress()
     QCOMPARE(m_events, QStringList({ "started", "record 42" }));
     QTest::keyRelease(m_spin, Qt::Key_Return);
     QCOMPARE(m_events.size(), 2);
-    QVERIFY(!m_spin->hasFocus());
     QCOMPARE(valueSpy.count(), 1);
 }
 
