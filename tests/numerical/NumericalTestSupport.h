@@ -99,20 +99,17 @@ public:
         layout->addWidget(widget);
     }
 
-    bool show()
+    // Builds the widget from the records, then shows the window.
+    bool build(QNumericalWidgetBase *widget, const Lu::CDynamicWidgetVariableBase &var,
+               const Lu::CDynamicWidgetDescBase &desc)
     {
+        if (widget->Initialize(var, desc).code() != 0u)
+            return false;
         window->show();
         if (!QTest::qWaitForWindowActive(window.get()))
             return false;
         other->setFocus();
         return true;
-    }
-
-    // Builds the widget from the records, then shows the window.
-    bool build(QNumericalWidgetBase *widget, const Lu::CDynamicWidgetVariableBase &var,
-               const Lu::CDynamicWidgetDescBase &desc)
-    {
-        return widget->Initialize(var, desc).code() == 0u && show();
     }
 
     std::unique_ptr<QWidget> window;

