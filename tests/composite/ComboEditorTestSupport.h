@@ -3,19 +3,15 @@
 
 // What the tests of the slider–spin-box editors share: dragging a slider's handle to an exact
 // position as a user does, typing into a spin box, a window that logs what a host hears and the
-// double-click reset table.
+// double-click reset.
 
 #include "QSliderEx.h"
 #include "VelaTest.h"
 
-#include <QAbstractSpinBox>
-#include <QApplication>
-#include <QDir>
 #include <QLineEdit>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
-#include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -147,16 +143,14 @@ struct Harness
         QCOMPARE(editor->Value(), value);
         QCOMPARE(slider->value(), position);
     }
-    // Runs the current row of the double-click table (addDoubleClickRows) on the editor holding
-    // `start` with the default `reset`, which the slider shows at `resetPosition`.
+    // Double-clicks the slider's handle, or the caption, on the editor holding `start` with the
+    // default `reset`, which the slider shows at `resetPosition`; the value returns to the default
+    // in one finished edit exactly when `resets`.
     template<class Value>
-    void doubleClickReset(Value start, Value reset, int resetPosition)
+    void doubleClickReset(Value start, Value reset, int resetPosition, bool onLabel = false,
+                          Qt::MouseButton button = Qt::LeftButton, bool enabled = true,
+                          bool resetFlag = true, bool resets = true)
     {
-        QFETCH(bool, onLabel);
-        QFETCH(int, button);
-        QFETCH(bool, enabled);
-        QFETCH(bool, resetFlag);
-        QFETCH(bool, resets);
         editor->SetDefaultValue(reset);
         editor->SetResetOnDoubleClick(resetFlag);
         editor->SetValue(start);
@@ -164,7 +158,7 @@ struct Harness
         log.clear();
 
         QWidget *target = onLabel ? static_cast<QWidget *>(editor->UI()->qtLabel) : slider;
-        QTest::mouseDClick(target, Qt::MouseButton(button), Qt::NoModifier,
+        QTest::mouseDClick(target, button, Qt::NoModifier,
                            onLabel ? QPoint() : handleRect(slider).center());
         QVERIFY(!slider->isSliderDown());
         if (!resets) {
@@ -181,23 +175,6 @@ struct Harness
         QCOMPARE(slider->objectName(), QStringLiteral("UneditedWidget"));
     }
 };
-
-// Where a double-click lands, with which button, on an enabled editor or not, with the reset
-// switched on or not, and whether the value returns to its default.
-inline void addDoubleClickRows()
-{
-    QTest::addColumn<bool>("onLabel");
-    QTest::addColumn<int>("button");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("resetFlag");
-    QTest::addColumn<bool>("resets");
-    QTest::newRow("left on slider") << false << int(Qt::LeftButton) << true << true << true;
-    QTest::newRow("left on label") << true << int(Qt::LeftButton) << true << true << true;
-    QTest::newRow("right on slider") << false << int(Qt::RightButton) << true << true << false;
-    QTest::newRow("right on label") << true << int(Qt::RightButton) << true << true << false;
-    QTest::newRow("disabled") << false << int(Qt::LeftButton) << false << true << false;
-    QTest::newRow("flag off") << true << int(Qt::LeftButton) << true << false << false;
-}
 
 } // namespace ComboEditorTest
 

