@@ -97,7 +97,6 @@ void tst_QDragDropListWidget::dropAsksInterface_data()
     QTest::newRow("refused at the enter") << 1 << true << false << true;
     QTest::newRow("three files, empty space") << 3 << false << true << true;
     QTest::newRow("three files, on an item") << 3 << true << true << true;
-    QTest::newRow("refused on empty space") << 3 << false << true << false;
     QTest::newRow("refused on an item") << 3 << true << true << false;
 }
 

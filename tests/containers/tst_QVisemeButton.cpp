@@ -27,8 +27,9 @@ void tst_QVisemeButton::init()
     QVERIFY(QTest::qWaitForWindowExposed(m_button.get()));
 }
 
-// The start distance is the list's (tst_QVisemeListWidget); here, which presses set the start, and
-// the payload the viseme curves take to free a slot (tst_QVisemeCurveWidgetLite).
+// The start distance, the move-only drag and the left button's part are the list's
+// (tst_QVisemeListWidget); here, which presses set the start, and the payload the viseme curves
+// take to free a slot (tst_QVisemeCurveWidgetLite).
 void tst_QVisemeButton::leftPressesStartTheDrag()
 {
     const int distance = QApplication::startDragDistance();
@@ -38,12 +39,8 @@ void tst_QVisemeButton::leftPressesStartTheDrag()
     QCOMPARE(drags().size(), 1);
     const QDrag *drag = drags().first();
     QCOMPARE(drag->source(), m_button.get());
-    QCOMPARE(drag->supportedActions(), Qt::MoveAction);
     QCOMPARE(drag->mimeData()->formats(), QStringList { "application/x-visemebutton" });
     QVERIFY(drag->mimeData()->data("application/x-visemebutton").isEmpty());
-    // Moving without the left button starts nothing.
-    VelaTest::mouseMove(m_button.get(), QPoint(70, 70), Qt::MiddleButton);
-    QCOMPARE(drags().size(), 1);
 }
 
 VELA_TEST_CLASS(tst_QVisemeButton)
