@@ -124,24 +124,22 @@ void tst_QKdPickContainer::buttonsInChildOrder()
 void tst_QKdPickContainer::clickPicksTopmostOpaqueButton_data()
 {
     QTest::addColumn<QPoint>("pos");
-    QTest::addColumn<QString>("aState");
+    QTest::addColumn<bool>("aHidden");
     QTest::addColumn<QString>("picked"); // empty: no pick
 
     // B lies on top of A and gets the events, but the first child under the pointer wins.
-    QTest::newRow("overlap") << kBoth << QString() << QStringLiteral("A");
-    QTest::newRow("A transparent there") << kClearOfABehindB << QString() << QStringLiteral("B");
-    QTest::newRow("A hidden") << kBoth << QStringLiteral("hidden") << QStringLiteral("B");
-    QTest::newRow("A disabled") << kBoth << QStringLiteral("disabled") << QStringLiteral("B");
-    QTest::newRow("nothing there") << kNothing << QString() << QString();
+    QTest::newRow("overlap") << kBoth << false << QStringLiteral("A");
+    QTest::newRow("A transparent there") << kClearOfABehindB << false << QStringLiteral("B");
+    QTest::newRow("A hidden") << kBoth << true << QStringLiteral("B");
+    QTest::newRow("nothing there") << kNothing << false << QString();
 }
 
 void tst_QKdPickContainer::clickPicksTopmostOpaqueButton()
 {
     QFETCH(QPoint, pos);
-    QFETCH(QString, aState);
+    QFETCH(bool, aHidden);
     QFETCH(QString, picked);
-    m_a->setHidden(aState == QLatin1String("hidden"));
-    m_a->setEnabled(aState != QLatin1String("disabled"));
+    m_a->setHidden(aHidden);
 
     click(pos);
     QCOMPARE(state(), picked + '|' + picked + (picked.isEmpty() ? '-' : '+'));
@@ -209,7 +207,6 @@ void tst_QKdPickContainer::keepSelectedButtons()
     m_container->SetKeepSelectedBtns({ QStringLiteral("B") });
     click(kOnlyA);
     QCOMPARE(checked(), QStringLiteral("AB")); // B re-checked by the click
-    QCOMPARE(m_container->GetSelectedBtnNames(), Names({ "A", "B" }));
 
     // B never counts as selected, so A is the last one and stays; a click on B keeps it too.
     click(kOnlyA);
@@ -246,7 +243,6 @@ void tst_QKdPickContainer::programmaticPick()
 
     QKdPickContainer empty;
     QVERIFY(!empty.setTransToolBtnState(QStringLiteral("A"), true));
-    QVERIFY(empty.GetPickedBtnName().isEmpty());
 }
 
 void tst_QKdPickContainer::bulkStateAndEnabling()
