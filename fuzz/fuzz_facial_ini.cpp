@@ -22,6 +22,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         table.show();
         table.grab();
     }
+    // What the cells posted while they were built reaches them, as the host's event loop would
+    // deliver it, before they go: deleting a widget with posted events first searches the whole
+    // queue for them.
+    QApplication::sendPostedEvents();
     // The table leaves the cells it makes without a parent, for the host to free.
     for (QWidget *widget : QApplication::topLevelWidgets()) {
         if (qobject_cast<CKdFKModifyCellWidget *>(widget))
